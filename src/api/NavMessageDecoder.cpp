@@ -1,0 +1,123 @@
+#include "zeltnavmsg/NavMessageDecoder.h"
+
+#include <stdexcept>
+#include <string>
+
+#include "api/FormatNames.h"
+#include "api/HexInput.h"
+#include "legacy/GpsL1caInterface.h"
+#include "legacy/QzssL1caInterface.h"
+#include "text/TextBuffer.h"
+
+namespace ZeltNavMsg {
+
+DecodingError::DecodingError() : message_("") {}
+DecodingError::DecodingError(const std::string& message) : message_(message) {}
+DecodingError::DecodingError(const char* message) : message_(message) {}
+
+const char* DecodingError::what() const noexcept {
+    return message_.what();
+}
+
+namespace {
+
+char systemLetter(std::string_view satIdStr) {
+    if (satIdStr.empty()) {
+        throw std::invalid_argument("Wrong satellite system type string");
+    }
+    return satIdStr.front();
+}
+
+[[noreturn]] void throwUnknownSystem(std::string_view satIdStr) {
+    std::string message = "Unknown satellite system for satellite name ";
+    message.append(satIdStr);
+    throw DecodingError(message);
+}
+
+bool isKnownSystem(char letter) {
+    return Names::kSystemLetters.find(letter) != std::string_view::npos;
+}
+
+// Legacy road: the bytes go into the 38-byte record with the layout of its
+// subframe and page, and the signal's table describes it.
+void describeSubframe(const Legacy::SubframeIf& signal, std::int32_t subframeNumber,
+                      std::int32_t pageNumber, std::string_view digits, Text::TextBuffer& out) {
+    if (digits.size() > 2 * static_cast<std::size_t>(Legacy::subframe_t::kDataBytes)) {
+        throw std::length_error("Decode: subframe data is longer than 38 bytes");
+    }
+    Legacy::subframe_t sf;
+    sf.subframe = subframeNumber;
+    sf.page = pageNumber;
+    sf.layoutId = signal.GetLayoutId(sf);
+    sf.bitCount = static_cast<std::int32_t>(digits.size() * 4);
+    Detail::hexDigitsToBytes(digits, sf.data, sizeof sf.data);
+    signal.describe(out, sf, Legacy::SubframeIf::DecodingMode::DecodeWords);
+}
+
+}  // namespace
+
+SignalType NavMessageDecoder::GetSignalTypeFromString(std::string_view satIdStr,
+                                                      std::string_view signalTypeStr) {
+    const char letter = systemLetter(satIdStr);
+    if (!isKnownSystem(letter)) {
+        throwUnknownSystem(satIdStr);
+    }
+    for (const Names::SignalName& row : Names::kSignalNames) {
+        if (row.letter == letter && row.name == signalTypeStr) {
+            return row.signal;
+        }
+    }
+    std::string message = "Unknown signal type string ";
+    message.append(signalTypeStr).append(" for satellite name ").append(satIdStr);
+    throw DecodingError(message);
+}
+
+MessageFormat NavMessageDecoder::GetMessageFormatFromString(std::string_view satIdStr,
+                                                            std::string_view messageFormatStr) {
+    const char letter = systemLetter(satIdStr);
+    if (!isKnownSystem(letter)) {
+        throwUnknownSystem(satIdStr);
+    }
+    for (const Names::FormatName& row : Names::kFormatNames) {
+        if (row.letter == letter && row.name == messageFormatStr) {
+            return row.format;
+        }
+    }
+    std::string message = "Unknown message format string ";
+    message.append(messageFormatStr).append(" for satellite name ").append(satIdStr);
+    throw DecodingError(message);
+}
+
+std::string NavMessageDecoder::GetDefaultMessageFormatString(std::string_view satIdStr) {
+    const char letter = systemLetter(satIdStr);
+    for (const Names::DefaultFormat& row : Names::kDefaultFormats) {
+        if (row.letter == letter) {
+            return std::string(row.name);
+        }
+    }
+    throwUnknownSystem(satIdStr);
+}
+
+std::string NavMessageDecoder::Decode(MessageFormat format, std::int32_t subframeNumber,
+                                      std::int32_t pageNumber, std::string_view hexString) {
+    // Digits are checked before anything looks at the format, and emptiness next.
+    const std::string_view digits = Detail::validateHexDigits(hexString);
+    if (digits.empty()) {
+        throw std::out_of_range("Decode: hex string is empty");
+    }
+
+    Text::TextBuffer out("\r\n");
+    switch (format) {
+        case MessageFormat::GpsLNav:
+            describeSubframe(Legacy::GPS_L1CA_Interface, subframeNumber, pageNumber, digits, out);
+            break;
+        case MessageFormat::QzssLNav:
+            describeSubframe(Legacy::QZSS_L1CA_Interface, subframeNumber, pageNumber, digits, out);
+            break;
+        default:
+            throw DecodingError("Decoding is not supported yet for this message format");
+    }
+    return out.str();
+}
+
+}  // namespace ZeltNavMsg

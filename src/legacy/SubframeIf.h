@@ -1,0 +1,69 @@
+#ifndef ZELTNAVMSG_LEGACY_SUBFRAMEIF_H
+#define ZELTNAVMSG_LEGACY_SUBFRAMEIF_H
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+#include "legacy/Subframe.h"
+#include "legacy/SubframeCoder.h"
+#include "legacy/SubframeFieldInfo.h"
+#include "text/TextBuffer.h"
+
+namespace ZeltNavMsg::Legacy {
+
+// A signal's table of subframe fields and the text it makes of one subframe.
+// Concrete interfaces only map (subframe, page) to a layout and own a coder; they
+// are constants, so any number of threads may describe through one at once.
+class SubframeIf {
+  public:
+    using subframe_t = Legacy::subframe_t;
+
+    enum class DecodingMode : std::int32_t {
+        AsReceived = 0,   // describe the bits as they came
+        DecodeWords = 1,  // run the coder's Decode on a copy first
+    };
+
+    constexpr SubframeIf(const SubframeFieldInfo* fields, std::int32_t fieldCount) noexcept
+        : fields_(fields), fieldCount_(fieldCount) {}
+    SubframeIf(const SubframeIf&) = delete;
+    SubframeIf& operator=(const SubframeIf&) = delete;
+    constexpr virtual ~SubframeIf() = default;
+
+    // Layout of the record's subframe and page; 0 when the pair has none.
+    [[nodiscard]] virtual std::int32_t GetLayoutId(const subframe_t& sf) const = 0;
+    [[nodiscard]] virtual const SubframeCoder& GetCoder() const = 0;
+
+    // Replaces `out` with the description of `sf`, lines ended by "\n".
+    std::string& MakeReadableDescription(std::string& out, const subframe_t& sf,
+                                         DecodingMode mode) const;
+
+    // Appends the same description to `out`, with `out`'s line end.
+    void describe(Text::TextBuffer& out, const subframe_t& sf, DecodingMode mode) const;
+
+    [[nodiscard]] std::span<const SubframeFieldInfo> fields() const noexcept {
+        return {fields_, static_cast<std::size_t>(fieldCount_)};
+    }
+
+  private:
+    // Appends the entries of one pass: raw-pass entries from the record as received,
+    // or the others from the (decoded) record.
+    void DescribeFields(Text::TextBuffer& out, const subframe_t& sf, bool rawPass) const;
+
+    const SubframeFieldInfo* fields_;
+    std::int32_t fieldCount_;
+};
+
+// Raw value and width of an entry in `data` (bits counted from 1). Segments are
+// joined most significant first in a 32-bit accumulator, so a wider field keeps
+// its last 32 bits.
+struct RawField {
+    std::uint32_t value;
+    std::int32_t width;
+};
+[[nodiscard]] RawField extractField(const SubframeFieldInfo& field,
+                                    const std::uint8_t* data) noexcept;
+
+}  // namespace ZeltNavMsg::Legacy
+
+#endif

@@ -1,0 +1,20 @@
+#ifndef ZELTNAVMSG_LEGACY_TABLES_FIELDTABLES_H
+#define ZELTNAVMSG_LEGACY_TABLES_FIELDTABLES_H
+
+#include <array>
+#include <cstddef>
+
+#include "legacy/SubframeFieldInfo.h"
+
+namespace ZeltNavMsg::Legacy {
+
+inline constexpr std::size_t kGpsL1caFieldCount = 228;
+inline constexpr std::size_t kQzssL1caFieldCount = 205;
+
+// Constant-initialised: usable from any static initialiser of a host.
+extern const std::array<SubframeFieldInfo, kGpsL1caFieldCount> kGpsL1caFields;
+extern const std::array<SubframeFieldInfo, kQzssL1caFieldCount> kQzssL1caFields;
+
+}  // namespace ZeltNavMsg::Legacy
+
+#endif

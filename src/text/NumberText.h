@@ -1,0 +1,92 @@
+#ifndef ZELTNAVMSG_TEXT_NUMBERTEXT_H
+#define ZELTNAVMSG_TEXT_NUMBERTEXT_H
+
+#include <charconv>
+#include <cstdint>
+#include <cstring>
+
+// Number-to-text writers shared by both output layouts. Each writes at `p` and
+// returns the end of what it wrote; no terminating NUL, no allocation. The caller
+// provides room: 20 characters for an unsigned, 21 for a signed 64-bit value,
+// 16 for hex digits (or the padded width if larger), 16 for a "%g" value.
+
+namespace ZeltNavMsg::Text {
+
+// Upper bound of the text written by writeG ("-1.23457e-308" is 13).
+inline constexpr std::size_t kMaxGLength = 16;
+
+namespace Detail {
+inline constexpr char kDigitPairs[] =
+    "00010203040506070809101112131415161718192021222324252627282930313233343536373839"
+    "40414243444546474849505152535455565758596061626364656667686970717273747576777879"
+    "8081828384858687888990919293949596979899";
+inline constexpr char kHexDigits[] = "0123456789ABCDEF";
+
+[[nodiscard]] constexpr int decimalDigits(std::uint64_t v) noexcept {
+    int n = 1;
+    while (v >= 10) {
+        v /= 10;
+        ++n;
+    }
+    return n;
+}
+}  // namespace Detail
+
+// Decimal digits of `v`, as "%lu" / "%llu" print them.
+inline char* writeUnsigned(char* p, std::uint64_t v) noexcept {
+    const int n = Detail::decimalDigits(v);
+    char* end = p + n;
+    char* q = end;
+    while (v >= 100) {
+        const auto pair = static_cast<unsigned>(v % 100) * 2;
+        v /= 100;
+        *--q = Detail::kDigitPairs[pair + 1];
+        *--q = Detail::kDigitPairs[pair];
+    }
+    if (v >= 10) {
+        const auto pair = static_cast<unsigned>(v) * 2;
+        *--q = Detail::kDigitPairs[pair + 1];
+        *--q = Detail::kDigitPairs[pair];
+    } else {
+        *--q = static_cast<char>('0' + v);
+    }
+    return end;
+}
+
+// Decimal text of `v` with a leading "-" when negative, as "%ld" prints it.
+inline char* writeSigned(char* p, std::int64_t v) noexcept {
+    std::uint64_t magnitude = static_cast<std::uint64_t>(v);
+    if (v < 0) {
+        *p++ = '-';
+        magnitude = ~magnitude + 1;  // well defined also for INT64_MIN
+    }
+    return writeUnsigned(p, magnitude);
+}
+
+// Upper-case hex digits of `v`, zero-padded on the left to at least `minDigits`,
+// as "%0*lX" prints it.
+inline char* writeHex(char* p, std::uint64_t v, int minDigits) noexcept {
+    int n = 1;
+    for (std::uint64_t t = v >> 4; t != 0; t >>= 4) {
+        ++n;
+    }
+    if (n < minDigits) {
+        n = minDigits;
+    }
+    char* end = p + n;
+    for (char* q = end; q != p; v >>= 4) {
+        *--q = Detail::kHexDigits[v & 0xF];
+    }
+    return end;
+}
+
+// `v` as "%g" prints it: six significant digits, the shorter of fixed and
+// exponent form, trailing zeros dropped. std::to_chars in general form with
+// precision 6 is specified to produce exactly that text.
+inline char* writeG(char* p, double v) noexcept {
+    return std::to_chars(p, p + kMaxGLength, v, std::chars_format::general, 6).ptr;
+}
+
+}  // namespace ZeltNavMsg::Text
+
+#endif
