@@ -32,6 +32,7 @@ class BitStructDef : public BitFieldDef {
         return children_;
     }
 
+    using BitFieldDef::makeReadableDescription;
     // Description of `def` over the N bits of `bits`, at level 0.
     template <int N>
     [[nodiscard]] static std::string makeReadableDescription(const BitStructDef& def,
