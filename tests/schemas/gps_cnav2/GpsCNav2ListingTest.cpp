@@ -1,11 +1,11 @@
-// GPS CNAV-2 frames compared line by line with listings worked out from the layout.
+// GPS CNAV-2 frames compared line by line with listings worked out from the layout
+// (tests/data/listings/gps_cnav2, see the README there).
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "schemas/gps_cnav2/ExpectedListings.h"
 #include "schemas/gps_cnav2/FrameDef.h"
 #include "support/RealData.h"
 #include "support/TreeChecks.h"
@@ -15,7 +15,7 @@ namespace {
 
 using ZeltNavMsg::MessageFormat;
 using ZeltNavMsg::NavMessageDecoder;
-using namespace ZeltNavMsg::Testing::GpsCNav2Expected;
+using ZeltNavMsg::Testing::ExpectedListing;
 
 std::vector<std::string> decodeLines(const std::string& hex) {
     const std::string text = NavMessageDecoder::Decode(MessageFormat::GpsCNav2, 0, 0, hex);
@@ -23,7 +23,7 @@ std::vector<std::string> decodeLines(const std::string& hex) {
     return ZeltNavMsg::Testing::splitLines(text);
 }
 
-// Line-by-line comparison, so that a failure names the first differing line.
+// Line by line, so that a failure names the first line that differs.
 void expectLines(const std::vector<std::string>& got, const std::vector<std::string>& expected) {
     for (std::size_t i = 0; i < std::min(got.size(), expected.size()); ++i) {
         ASSERT_EQ(got[i], expected[i]) << "line " << i + 1;
@@ -31,54 +31,38 @@ void expectLines(const std::vector<std::string>& got, const std::vector<std::str
     EXPECT_EQ(got.size(), expected.size());
 }
 
-std::vector<std::string> fromSubframe3(const std::vector<std::string>& lines) {
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (lines[i] == "\tSubframe 3") {
-            return {lines.begin() + static_cast<std::ptrdiff_t>(i), lines.end()};
-        }
+ExpectedListing expected(const std::string& name) {
+    return ZeltNavMsg::Testing::loadExpectedListing("gps_cnav2/" + name + ".txt");
+}
+
+TEST(GpsCNav2Listing, ExtremeFrames) {
+    for (const char* name : {"all-zero", "all-ones", "sign-bit-only"}) {
+        SCOPED_TRACE(name);
+        const ExpectedListing listing = expected(name);
+        expectLines(decodeLines(listing.hex), listing.lines);
     }
-    ADD_FAILURE() << "no subframe 3";
-    return {};
+    // The bit past the 883rd in the last digit is not part of the frame.
+    expectLines(decodeLines(std::string(221, 'F')), expected("all-ones").lines);
 }
-
-TEST(GpsCNav2Listing, AllZeroFrame) {
-    expectLines(decodeLines(std::string(221, '0')), kAllZero);
-}
-
-TEST(GpsCNav2Listing, AllOnesFrame) {
-    expectLines(decodeLines(std::string(220, 'F') + "E"), kAllOnes);
-    // The bit past the 883rd of the last digit is not part of the frame.
-    expectLines(decodeLines(std::string(221, 'F')), kAllOnes);
-}
-
-TEST(GpsCNav2Listing, SignBitOnlyFrame) {
-    expectLines(decodeLines(kSignBitHex), kSignBitOnly);
-}
-
-struct PageCase {
-    int page;
-    const std::string& hex;
-    const std::vector<std::string>& expected;
-};
 
 TEST(GpsCNav2Listing, EveryPageAndUnknownOnes) {
-    const PageCase cases[] = {
-        {1, kPage1Hex, kPage1Subframe3}, {2, kPage2Hex, kPage2Subframe3},
-        {3, kPage3Hex, kPage3Subframe3}, {4, kPage4Hex, kPage4Subframe3},
-        {5, kPage5Hex, kPage5Subframe3}, {6, kPage6Hex, kPage6Subframe3},
-        {7, kPage7Hex, kPage7Subframe3}, {0, kPage0Hex, kPage0Subframe3},
-        {8, kPage8Hex, kPage8Subframe3}, {63, kPage63Hex, kPage63Subframe3},
-    };
-    for (const PageCase& c : cases) {
-        SCOPED_TRACE("page " + std::to_string(c.page));
-        expectLines(fromSubframe3(decodeLines(c.hex)), c.expected);
+    for (const int page : {1, 2, 3, 4, 5, 6, 7, 0, 8, 63}) {
+        SCOPED_TRACE("page " + std::to_string(page));
+        const ExpectedListing listing = expected("page-" + std::to_string(page));
+        expectLines(decodeLines(listing.hex), listing.lines);
     }
-    EXPECT_EQ(kPage0Subframe3.size(), 4U);  // PRN, Page ID and CRC only
+    // An unknown page shows PRN, Page ID and CRC only.
+    const std::vector<std::string> lines = decodeLines(expected("page-8").hex);
+    ASSERT_GE(lines.size(), 4U);
+    EXPECT_EQ(lines[lines.size() - 4], "\tSubframe 3");
+    EXPECT_TRUE(lines[lines.size() - 3].starts_with("\t\tPRN: "));
+    EXPECT_EQ(lines[lines.size() - 2], "\t\tPage ID: 8, Raw hex:08");
+    EXPECT_TRUE(lines.back().starts_with("\t\tCRC: "));
 }
 
 TEST(GpsCNav2Listing, InputLengthDoesNotMatter) {
     // Shorter input: the missing bits are zero. Longer: the extra bits are ignored.
-    const std::string page3 = kPage3Hex;
+    const std::string page3 = expected("page-3").hex;
     const std::string text = NavMessageDecoder::Decode(MessageFormat::GpsCNav2, 0, 0, page3);
     EXPECT_EQ(NavMessageDecoder::Decode(MessageFormat::GpsCNav2, 0, 0, page3 + page3), text);
     EXPECT_EQ(NavMessageDecoder::Decode(MessageFormat::GpsCNav2, 0, 0, page3.substr(0, 150)),
@@ -87,9 +71,7 @@ TEST(GpsCNav2Listing, InputLengthDoesNotMatter) {
     // Subframe and page numbers are not looked at.
     EXPECT_EQ(NavMessageDecoder::Decode(MessageFormat::GpsCNav2, -5, 99, page3), text);
     // One digit of input still lists the whole frame.
-    EXPECT_EQ(ZeltNavMsg::Testing::splitLines(
-                  NavMessageDecoder::Decode(MessageFormat::GpsCNav2, 0, 0, "0")),
-              kAllZero);
+    expectLines(decodeLines("0"), expected("all-zero").lines);
 }
 
 TEST(GpsCNav2Listing, EveryStructureIsTiledByItsMembers) {
