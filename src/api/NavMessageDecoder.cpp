@@ -5,8 +5,11 @@
 
 #include "api/FormatNames.h"
 #include "api/HexInput.h"
+#include "bits/BinArray.h"
+#include "fields/ReadableDescription.h"
 #include "legacy/GpsL1caInterface.h"
 #include "legacy/QzssL1caInterface.h"
+#include "schemas/gps_cnav2/FrameDef.h"
 #include "text/TextBuffer.h"
 
 namespace ZeltNavMsg {
@@ -52,6 +55,17 @@ void describeSubframe(const Legacy::SubframeIf& signal, std::int32_t subframeNum
     sf.bitCount = static_cast<std::int32_t>(digits.size() * 4);
     Detail::hexDigitsToBytes(digits, sf.data, sizeof sf.data);
     signal.describe(out, sf, Legacy::SubframeIf::DecodingMode::DecodeWords);
+}
+
+// Definition-tree road: the first N bits go into a zeroed frame (a shorter input
+// leaves the rest zero, a longer one is cut) and the format's tree describes it.
+template <int N>
+void describeFrame(const BitStructDef& root, std::string_view digits, Text::TextBuffer& out) {
+    BinArray<N> frame;
+    frame.fill(0);
+    Detail::hexDigitsToBytes(digits, frame.data(), BinArray<N>::kBytes);
+    frame.clearUnusedBits();
+    Describe::appendText(root, frame.buffer(), 0, out);
 }
 
 }  // namespace
@@ -108,6 +122,9 @@ std::string NavMessageDecoder::Decode(MessageFormat format, std::int32_t subfram
 
     Text::TextBuffer out("\r\n");
     switch (format) {
+        case MessageFormat::GpsCNav2:
+            describeFrame<GpsCNav2::FrameDef::kBits>(GpsCNav2::gpsCNav2FrameDef(), digits, out);
+            break;
         case MessageFormat::GpsLNav:
             describeSubframe(Legacy::GPS_L1CA_Interface, subframeNumber, pageNumber, digits, out);
             break;

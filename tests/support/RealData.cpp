@@ -118,6 +118,19 @@ std::optional<LegacyLine> onlyLine(const std::multimap<std::string, LegacyLine>&
     return lines.find(name)->second;
 }
 
+ExpectedListing loadExpectedListing(std::string_view relativePath) {
+    const std::string path =
+        std::string(ZELTNAVMSG_TEST_DATA_DIR) + "/listings/" + std::string(relativePath);
+    std::ifstream file(path);
+    EXPECT_TRUE(file.good()) << "cannot read " << path;
+    ExpectedListing listing;
+    std::getline(file, listing.hex);
+    for (std::string line; std::getline(file, line);) {
+        listing.lines.push_back(line);
+    }
+    return listing;
+}
+
 std::vector<std::string> splitLines(std::string_view text) {
     std::vector<std::string> lines;
     std::size_t start = 0;

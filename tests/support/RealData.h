@@ -49,6 +49,13 @@ std::multimap<std::string, LegacyLine> parseLegacyListing(std::string_view text)
 std::optional<LegacyLine> onlyLine(const std::multimap<std::string, LegacyLine>& lines,
                                    const std::string& name);
 
+// An expected-listing file of tests/data/listings: its input and its lines.
+struct ExpectedListing {
+    std::string hex;
+    std::vector<std::string> lines;
+};
+ExpectedListing loadExpectedListing(std::string_view relativePath);
+
 // Splits a text at "\r\n" (the library's line end) into lines.
 std::vector<std::string> splitLines(std::string_view text);
 

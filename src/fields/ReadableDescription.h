@@ -1,0 +1,21 @@
+#ifndef ZELTNAVMSG_FIELDS_READABLEDESCRIPTION_H
+#define ZELTNAVMSG_FIELDS_READABLEDESCRIPTION_H
+
+#include <cstdint>
+
+#include "bits/BitBuffer.h"
+#include "fields/BitFieldDef.h"
+#include "text/TextBuffer.h"
+
+namespace ZeltNavMsg::Describe {
+
+// Appends the readable description of `def` to `out`: one line per visible member,
+// indented by one TAB per level, "name: value units" with ", Raw hex:" and the raw
+// digits where they differ from the value; lines separated by out's line end, no
+// line end after the last.
+void appendText(const BitFieldDef& def, ConstBitBuffer buffer, std::uint32_t level,
+                Text::TextBuffer& out);
+
+}  // namespace ZeltNavMsg::Describe
+
+#endif

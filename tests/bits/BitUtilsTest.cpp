@@ -1,0 +1,253 @@
+// Bit reads and writes against a bit-at-a-time model of the numbering (bit i is in
+// byte i/8 under mask 0x80 >> i%8), and the number conversions at their edges.
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <limits>
+#include <random>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "bits/BitUtils.h"
+
+namespace {
+
+using ZeltNavMsg::BitRange;
+using ZeltNavMsg::BitUtils;
+using ZeltNavMsg::NumberFormat;
+using Init = BitRange::InitializationType;
+
+bool bitAt(const std::vector<std::uint8_t>& bytes, int i) {
+    return ((bytes[static_cast<std::size_t>(i / 8)] >> (7 - i % 8)) & 1U) != 0;
+}
+
+std::vector<std::uint8_t> randomBytes(std::size_t n, unsigned seed) {
+    std::mt19937 random(seed);
+    std::vector<std::uint8_t> bytes(n);
+    for (auto& b : bytes) {
+        b = static_cast<std::uint8_t>(random());
+    }
+    return bytes;
+}
+
+TEST(BitUtils, ReadsEveryOffsetAndWidthLikeTheBitModel) {
+    const std::vector<std::uint8_t> bytes = randomBytes(24, 1);
+    const ZeltNavMsg::ConstBitBuffer buffer(bytes.data(), 192);
+    for (int first = 0; first < 64; ++first) {
+        for (int width = 1; width <= 64; ++width) {
+            std::uint64_t expected = 0;
+            for (int i = first; i < first + width; ++i) {
+                expected = (expected << 1) | (bitAt(bytes, i) ? 1U : 0U);
+            }
+            ASSERT_EQ(BitUtils::readBits(BitRange(Init::FirstBitAndCount, first, width), buffer),
+                      expected)
+                << "first " << first << " width " << width;
+        }
+    }
+}
+
+TEST(BitUtils, WritesEveryOffsetAndWidthTouchingNothingElse) {
+    std::mt19937_64 random(2);
+    for (int first = 0; first < 64; ++first) {
+        for (int width = 1; width <= 64; ++width) {
+            std::vector<std::uint8_t> bytes =
+                randomBytes(24, static_cast<unsigned>(first * 100 + width));
+            const std::vector<std::uint8_t> before = bytes;
+            const std::uint64_t value = random();
+            BitUtils::writeBits(BitRange(Init::FirstBitAndCount, first, width),
+                                ZeltNavMsg::BitBuffer(bytes.data(), 192), value);
+            for (int i = 0; i < 192; ++i) {
+                const bool inside = i >= first && i < first + width;
+                const bool expected =
+                    inside ? ((value >> (first + width - 1 - i)) & 1U) != 0 : bitAt(before, i);
+                ASSERT_EQ(bitAt(bytes, i), expected)
+                    << "first " << first << " width " << width << " bit " << i;
+            }
+        }
+    }
+}
+
+TEST(BitUtils, DocumentedExamples) {
+    const std::uint8_t abcd[2] = {0xAB, 0xCD};
+    const ZeltNavMsg::ConstBitBuffer buffer(abcd, 16);
+    EXPECT_EQ(BitUtils::readBits(BitRange(Init::FirstAndLastBit, 4, 11), buffer), 0xBCU);
+    EXPECT_EQ(BitUtils::readBits(BitRange(Init::FirstAndLastBit, 0, 15), buffer), 0xABCDU);
+    const BitRange list[] = {BitRange(Init::FirstAndLastBit, 0, 3),
+                             BitRange(Init::FirstAndLastBit, 12, 15)};
+    EXPECT_EQ(BitUtils::readBits(list, buffer), 0xADU);
+
+    std::uint8_t byte = 0xFC;
+    BitUtils::writeBits(BitRange(Init::FirstAndLastBit, 6, 7), ZeltNavMsg::BitBuffer(&byte, 8),
+                        0x3);
+    EXPECT_EQ(byte, 0xFF);
+    byte = 0x00;
+    BitUtils::writeBits(BitRange(Init::FirstAndLastBit, 0, 7), ZeltNavMsg::BitBuffer(&byte, 8),
+                        0x1FF);
+    EXPECT_EQ(byte, 0xFF);  // bit 8 of the value is dropped
+}
+
+TEST(BitUtils, RangeListsSplitTheValueMostSignificantFirst) {
+    std::uint8_t bytes[4] = {};
+    const BitRange list[] = {BitRange(Init::FirstBitAndCount, 20, 6),
+                             BitRange(Init::FirstBitAndCount, 2, 10)};
+    BitUtils::writeBits(list, ZeltNavMsg::BitBuffer(bytes, 32),
+                        0xFABCDEU);  // only the low 16 bits count
+    EXPECT_EQ(BitUtils::readBits(BitRange(Init::FirstBitAndCount, 20, 6),
+                                 ZeltNavMsg::ConstBitBuffer(bytes, 32)),
+              0xBCDEU >> 10);
+    EXPECT_EQ(BitUtils::readBits(BitRange(Init::FirstBitAndCount, 2, 10),
+                                 ZeltNavMsg::ConstBitBuffer(bytes, 32)),
+              0xBCDEU & 0x3FFU);
+    EXPECT_EQ(BitUtils::readBits(list, ZeltNavMsg::ConstBitBuffer(bytes, 32)), 0xBCDEU);
+}
+
+struct CopyCase {
+    int dstFirst;
+    int srcFirst;
+    int count;
+};
+
+TEST(BitUtils, CopyBitsMovesExactlyTheRange) {
+    const CopyCase cases[] = {
+        {0, 0, 72},   // whole bytes at once
+        {8, 16, 64},  // exactly 64 aligned bits: one chunk
+        {3, 0, 72},   // a 64-bit chunk and an 8-bit one
+        {0, 5, 130}, {17, 9, 1}, {0, 0, 200},
+    };
+    for (const CopyCase& c : cases) {
+        const std::vector<std::uint8_t> src = randomBytes(32, 3);
+        std::vector<std::uint8_t> dst = randomBytes(32, 4);
+        const std::vector<std::uint8_t> before = dst;
+        BitUtils::copyBits(
+            BitRange(Init::FirstBitAndCount, c.dstFirst, c.count),
+            ZeltNavMsg::BitBuffer(dst.data(), 1),
+            BitRange(Init::FirstBitAndCount, c.srcFirst, 1),  // only its start counts
+            ZeltNavMsg::ConstBitBuffer(src.data(), 1));
+        for (int i = 0; i < 256; ++i) {
+            const bool inside = i >= c.dstFirst && i < c.dstFirst + c.count;
+            ASSERT_EQ(bitAt(dst, i),
+                      inside ? bitAt(src, c.srcFirst + i - c.dstFirst) : bitAt(before, i))
+                << "copy to " << c.dstFirst << " from " << c.srcFirst << " of " << c.count
+                << ", bit " << i;
+        }
+    }
+}
+
+TEST(BitUtils, HexTextToBits) {
+    std::uint8_t bytes[2] = {0xFF, 0xFF};
+    BitUtils::convertHexStringToBinArray("F", 1, bytes, 6);  // the missing digit counts as 0
+    EXPECT_EQ(bytes[0], 0xF3);  // bits 0-3 set, 4-5 cleared, 6-7 untouched
+    BitUtils::convertHexStringToBinArray("a5c", 3, bytes, 16);
+    EXPECT_EQ(bytes[0], 0xA5);
+    EXPECT_EQ(bytes[1], 0xC0);
+    BitUtils::convertHexStringToBinArray("7", 1, bytes, 3);  // high bits of a short last digit
+    EXPECT_EQ(bytes[0] >> 5, 0x3);
+    BitUtils::convertHexStringToBinArray(nullptr, 5, bytes, 16);  // writes nothing
+    EXPECT_EQ(bytes[1], 0xC0);
+    try {
+        BitUtils::convertHexStringToBinArray("1g", 2, bytes, 8);
+        ADD_FAILURE() << "no error";
+    } catch (const std::runtime_error& e) {
+        EXPECT_STREQ(
+            e.what(),
+            "BitUtils::convertHexStringToBinArray: hexString should contain only hex digits "
+            "(0-9, A-F, a-f)");
+    }
+    EXPECT_THROW(BitUtils::convertHexStringToBinArray("1", 1, nullptr, 8), std::runtime_error);
+    EXPECT_THROW(BitUtils::convertHexStringToBinArray("1", 1, bytes, 0), std::runtime_error);
+}
+
+struct SignedCase {
+    std::uint64_t raw;
+    int width;
+    unsigned format;
+    std::int64_t value;
+};
+
+TEST(BitUtils, DecodeSignedNumber) {
+    const SignedCase cases[] = {
+        {0b1011, 4, 2, -5},
+        {0b1011, 4, 4, -5},
+        {0b1011, 4, 3, -3},
+        {0b0011, 4, 9, 3},  // a clear sign bit is never checked against the format
+        {0b1000, 4, 3, 0},  // negative zero
+        {0x80000000, 32, 2, -2147483648LL},
+        {0x8000000000000000ULL, 64, 2, std::numeric_limits<std::int64_t>::min()},
+        {0xFFFFFFFFFFFFFFFFULL, 64, 3, -0x7FFFFFFFFFFFFFFFLL},
+        {0b10, 2, 2, -2},
+    };
+    for (const SignedCase& c : cases) {
+        EXPECT_EQ(BitUtils::decodeSignedNumber(c.raw, c.width, static_cast<NumberFormat>(c.format)),
+                  c.value)
+            << c.raw << "/" << c.width << "/" << c.format;
+    }
+    for (unsigned format : {0U, 1U, 5U, 9U}) {
+        try {
+            (void)BitUtils::decodeSignedNumber(0b1011, 4, static_cast<NumberFormat>(format));
+            ADD_FAILURE() << "format " << format << " accepted";
+        } catch (const std::runtime_error& e) {
+            EXPECT_STREQ(e.what(), "decodeSignedNumber: Unknown number format");
+        }
+    }
+}
+
+TEST(BitUtils, EncodeSignedNumber) {
+    EXPECT_EQ(BitUtils::encodeSignedNumber(5, true, 4, NumberFormat::TwosComplementNumberFormat),
+              0b1011U);
+    EXPECT_EQ(BitUtils::encodeSignedNumber(5, true, 4, NumberFormat::TwosComplementNumberFormatAlt),
+              0b1011U);
+    EXPECT_EQ(BitUtils::encodeSignedNumber(5, true, 4, NumberFormat::SignMagnitudeNumberFormat),
+              0b1101U);
+    EXPECT_EQ(BitUtils::encodeSignedNumber(5, false, 4, NumberFormat::UnsignedNumberFormat), 5U);
+    EXPECT_EQ(BitUtils::encodeSignedNumber(0, true, 8, NumberFormat::SignMagnitudeNumberFormat),
+              0x80U);
+    for (NumberFormat f : {NumberFormat::UnsignedNumberFormat, NumberFormat::UnknownNumberFormat}) {
+        try {
+            (void)BitUtils::encodeSignedNumber(5, true, 4, f);
+            ADD_FAILURE() << "unsigned format accepted";
+        } catch (const std::runtime_error& e) {
+            EXPECT_STREQ(e.what(), "encodeSignedNumber: only signed number formats are supported");
+        }
+    }
+}
+
+TEST(BitUtils, ReadDoubleByFormat) {
+    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, NumberFormat::UnsignedNumberFormat), 127.5);
+    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, NumberFormat::UnsignedNumberFormatAlt), 127.5);
+    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, NumberFormat::TwosComplementNumberFormat), -0.5);
+    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, NumberFormat::SignMagnitudeNumberFormat), -63.5);
+    EXPECT_EQ(
+        BitUtils::readDouble(0xFFFFFFFFFFFFFFFFULL, 1.0, 64, NumberFormat::UnsignedNumberFormat),
+        18446744073709551616.0);
+    EXPECT_THROW((void)BitUtils::readDouble(0xFF, 1.0, 8, NumberFormat::UnknownNumberFormat),
+                 std::runtime_error);
+}
+
+TEST(BitUtils, DecimalTexts) {
+    EXPECT_EQ(BitUtils::unsignedToString(0).view(), "0");
+    EXPECT_EQ(BitUtils::unsignedToString(1234567890).view(), "1234567890");
+    EXPECT_EQ(BitUtils::unsignedToString(18446744073709551615ULL).view(), "18446744073709551615");
+    EXPECT_EQ(BitUtils::signedToString(0).view(), "0");
+    EXPECT_EQ(BitUtils::signedToString(-7).view(), "-7");
+    EXPECT_EQ(BitUtils::signedToString(2147483647).view(), "2147483647");
+    EXPECT_EQ(BitUtils::signedToString(std::numeric_limits<std::int32_t>::min()).view(),
+              "-2147483648");
+}
+
+TEST(LimitedSizeString, RefusesTheCharacterPastItsCapacity) {
+    ZeltNavMsg::LimitedSizeString<3> s;
+    s.append("abc");
+    EXPECT_EQ(s.view(), "abc");
+    EXPECT_STREQ(s.c_str(), "abc");
+    try {
+        s.push_back('d');
+        ADD_FAILURE() << "no error";
+    } catch (const std::runtime_error& e) {
+        EXPECT_STREQ(e.what(), "LimitedSizeString: not enough capacity");
+    }
+    EXPECT_EQ(s.view(), "abc");
+}
+
+}  // namespace
