@@ -50,9 +50,8 @@ TEST(DecodeDispatch, UnsupportedFormatsAreRefused) {
 
 // Formats whose decoders have not landed yet are refused like the unsupported ones.
 TEST(DecodeDispatch, FormatsNotDecodedYet) {
-    for (const MessageFormat format :
-         {MessageFormat::GpsCNav2, MessageFormat::BeidouD1, MessageFormat::BeidouD2,
-          MessageFormat::BeidouCNav1, MessageFormat::BeidouCNav2, MessageFormat::Irnss}) {
+    for (const MessageFormat format : {MessageFormat::GpsCNav2, MessageFormat::BeidouCNav1,
+                                       MessageFormat::BeidouCNav2, MessageFormat::Irnss}) {
         EXPECT_EQ(messageOf<DecodingError>(format, "00"),
                   "Decoding is not supported yet for this message format")
             << static_cast<int>(format);
