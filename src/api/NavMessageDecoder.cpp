@@ -7,6 +7,8 @@
 #include "api/HexInput.h"
 #include "bits/BinArray.h"
 #include "fields/ReadableDescription.h"
+#include "legacy/BeidouD1Interface.h"
+#include "legacy/BeidouD2Interface.h"
 #include "legacy/GpsL1caInterface.h"
 #include "legacy/QzssL1caInterface.h"
 #include "schemas/gps_cnav2/FrameDef.h"
@@ -130,6 +132,12 @@ std::string NavMessageDecoder::Decode(MessageFormat format, std::int32_t subfram
             break;
         case MessageFormat::QzssLNav:
             describeSubframe(Legacy::QZSS_L1CA_Interface, subframeNumber, pageNumber, digits, out);
+            break;
+        case MessageFormat::BeidouD1:
+            describeSubframe(Legacy::BEIDOU_D1_Interface, subframeNumber, pageNumber, digits, out);
+            break;
+        case MessageFormat::BeidouD2:
+            describeSubframe(Legacy::BEIDOU_D2_Interface, subframeNumber, pageNumber, digits, out);
             break;
         default:
             throw DecodingError("Decoding is not supported yet for this message format");

@@ -1,0 +1,148 @@
+#include "legacy/SubframeCoderBeidouNav.h"
+
+#include <array>
+#include <cstring>
+
+namespace ZeltNavMsg::Legacy {
+
+namespace {
+
+constexpr std::uint32_t kInfoMask = 0x7FFU;
+constexpr std::uint32_t kCodewordMask = 0x7FFFU;
+constexpr int kWords = 10;
+constexpr int kUncodedBits = 15;  // preamble and the 4 bits after it
+
+// 30 bits starting at zero-based bit `index`, first bit most significant. Every word
+// of a subframe lies within the 38 data bytes, five bytes at most.
+std::uint32_t readWord(const std::uint8_t* data, int index) noexcept {
+    const int byte = index / 8;
+    std::uint64_t bits = 0;
+    for (int b = 0; b < 5 && byte + b < subframe_t::kDataBytes; ++b) {
+        bits |= std::uint64_t{data[byte + b]} << (32 - 8 * b);
+    }
+    return static_cast<std::uint32_t>(bits >> (10 - index % 8)) & 0x3FFFFFFFU;
+}
+
+constexpr std::int32_t wordStart(int word) {
+    return 30 * word + 1;  // bits are counted from 1
+}
+
+// BCH(15,11) parity: a 4-bit register divides by x^4 + x + 1, information bits most
+// significant first.
+constexpr std::uint32_t codeword(std::uint32_t info) {
+    std::uint32_t r = 0;
+    for (int i = 10; i >= 0; --i) {
+        const std::uint32_t b = (info >> i) & 1U;
+        const std::uint32_t top = (r >> 3) & 1U;
+        r <<= 1;
+        if (top != b) {
+            r ^= 3U;
+        }
+    }
+    return ((info & kInfoMask) << 4) | (r & 15U);
+}
+
+// One clock of the syndrome registers (state = r3 r2 r1 r0, r3 most significant):
+// d = r3; r3 = r2; r2 = r1; r1 = r0 | d; r0 = bit | d.
+constexpr std::uint32_t syndromeStep(std::uint32_t state, std::uint32_t bit) {
+    const std::uint32_t r0 = state & 1U;
+    const std::uint32_t r1 = (state >> 1) & 1U;
+    const std::uint32_t r2 = (state >> 2) & 1U;
+    const std::uint32_t d = (state >> 3) & 1U;
+    return (r2 << 3) | (r1 << 2) | ((r0 | d) << 1) | (bit | d);
+}
+
+// The registers clocked over five codeword bits at once, least significant first:
+// kSyndromeChunk[state][bits] is the state afterwards. Three lookups cover 15 bits.
+constexpr auto kSyndromeChunk = [] {
+    std::array<std::array<std::uint8_t, 32>, 16> table{};
+    for (std::uint32_t state = 0; state < 16; ++state) {
+        for (std::uint32_t bits = 0; bits < 32; ++bits) {
+            std::uint32_t s = state;
+            for (int i = 0; i < 5; ++i) {
+                s = syndromeStep(s, (bits >> i) & 1U);
+            }
+            table[state][bits] = static_cast<std::uint8_t>(s);
+        }
+    }
+    return table;
+}();
+
+// Error pattern by syndrome; the bit set is (pattern - 1) mod 32.
+constexpr std::uint32_t kErrorPattern[16] = {
+    0x0000, 0x0001, 0x0002, 0x0010, 0x0004, 0x0100, 0x0020, 0x0400,
+    0x0008, 0x4000, 0x0200, 0x0080, 0x0040, 0x2000, 0x0800, 0x1000,
+};
+
+// Bits 0, 2, 4, ... of `x` packed into the low 16 bits.
+constexpr std::uint32_t evenBits(std::uint32_t x) {
+    x &= 0x55555555U;
+    x = (x | (x >> 1)) & 0x33333333U;
+    x = (x | (x >> 2)) & 0x0F0F0F0FU;
+    x = (x | (x >> 4)) & 0x00FF00FFU;
+    x = (x | (x >> 8)) & 0x0000FFFFU;
+    return x;
+}
+
+// The low 16 bits of `x` spread to bits 0, 2, 4, ...
+constexpr std::uint32_t spreadBits(std::uint32_t x) {
+    x &= 0x0000FFFFU;
+    x = (x | (x << 8)) & 0x00FF00FFU;
+    x = (x | (x << 4)) & 0x0F0F0F0FU;
+    x = (x | (x << 2)) & 0x33333333U;
+    x = (x | (x << 1)) & 0x55555555U;
+    return x;
+}
+
+}  // namespace
+
+std::uint16_t SubframeCoderBeidouNav::BchDecode(std::uint16_t codeword) noexcept {
+    std::uint32_t c = codeword;
+    std::uint32_t s = kSyndromeChunk[0][c & 31U];
+    s = kSyndromeChunk[s][(c >> 5) & 31U];
+    s = kSyndromeChunk[s][(c >> 10) & 31U];
+    const std::uint32_t pattern = kErrorPattern[s];
+    if (pattern != 0) {
+        c |= 1U << ((pattern - 1U) % 32U);
+    }
+    return static_cast<std::uint16_t>((c >> 4) & kInfoMask);
+}
+
+bool SubframeCoderBeidouNav::Encode(subframe_t& sf) const {
+    // Built in a cleared copy, so bits past word 10 and words that do not fit the
+    // record come out zero; it starts with the uncoded bits of word 1.
+    subframe_t coded = sf;
+    std::memset(coded.data, 0, sizeof coded.data);
+    coded.data[0] = sf.data[0];
+    coded.data[1] = static_cast<std::uint8_t>(sf.data[1] & 0xFEU);
+
+    const std::uint32_t first = readWord(sf.data, 0);
+    const std::uint32_t uncoded = first >> kUncodedBits;
+    bool failed = WriteWord(coded, wordStart(0),
+                            (uncoded << kUncodedBits) | codeword((first >> 4) & kInfoMask));
+    for (int w = 1; w < kWords; ++w) {
+        const std::uint32_t word = readWord(sf.data, wordStart(w) - 1);
+        const std::uint32_t a = codeword(word >> 19);
+        const std::uint32_t b = codeword(word >> 8);
+        failed = WriteWord(coded, wordStart(w), (spreadBits(a) << 1) | spreadBits(b)) || failed;
+    }
+    std::memcpy(sf.data, coded.data, sizeof sf.data);
+    return failed;
+}
+
+bool SubframeCoderBeidouNav::Decode(subframe_t& sf) const {
+    const std::uint32_t first = readWord(sf.data, 0);
+    const std::uint32_t info = BchDecode(static_cast<std::uint16_t>(first & kCodewordMask));
+    bool failed = WriteWord(sf, wordStart(0), (((first >> kUncodedBits) << 11) | info) << 4);
+    for (int w = 1; w < kWords; ++w) {
+        const std::uint32_t word = readWord(sf.data, wordStart(w) - 1);
+        const auto a = static_cast<std::uint16_t>(evenBits(word >> 1));
+        const auto b = static_cast<std::uint16_t>(evenBits(word));
+        const std::uint32_t decoded =
+            (static_cast<std::uint32_t>(BchDecode(a)) << 11) | BchDecode(b);
+        failed = WriteWord(sf, wordStart(w), decoded << 8) || failed;
+    }
+    return failed;
+}
+
+}  // namespace ZeltNavMsg::Legacy

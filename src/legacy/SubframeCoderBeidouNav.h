@@ -1,0 +1,39 @@
+#ifndef ZELTNAVMSG_LEGACY_SUBFRAMECODERBEIDOUNAV_H
+#define ZELTNAVMSG_LEGACY_SUBFRAMECODERBEIDOUNAV_H
+
+#include <cstdint>
+
+#include "legacy/SubframeCoder.h"
+
+namespace ZeltNavMsg::Legacy {
+
+// BeiDou D1 and D2 words: BCH(15,11) codewords with generator x^4 + x + 1.
+//
+// As received, word 1 is 15 uncoded bits (preamble and the 4 bits after it) and one
+// codeword; words 2-10 carry two codewords interleaved bit by bit, the first
+// codeword's bit first. Decoded, word 1 is its 15 uncoded bits, 11 information bits
+// and 4 zero bits; words 2-10 are the 11 information bits of each codeword, then
+// 8 zero bits.
+class SubframeCoderBeidouNav final : public SubframeCoder {
+  public:
+    explicit constexpr SubframeCoderBeidouNav(std::int32_t variant) noexcept
+        : SubframeCoder(variant) {}
+
+    // Decoded layout -> received layout: adds the parity and interleaves.
+    bool Encode(subframe_t& sf) const override;
+
+    // Received layout -> decoded layout, every codeword through BchDecode.
+    bool Decode(subframe_t& sf) const override;
+
+    // The 11 information bits of a 15-bit codeword (information first, parity in the
+    // low 4 bits) after this decoder's correction step. The syndrome comes from four
+    // one-bit registers that combine by OR, not XOR, and a matched error pattern is
+    // set into the word rather than toggled; only patterns for bits 0, 1, 3 and 7
+    // land inside the codeword. Kept as it is: the listing of a damaged codeword
+    // depends on it.
+    [[nodiscard]] static std::uint16_t BchDecode(std::uint16_t codeword) noexcept;
+};
+
+}  // namespace ZeltNavMsg::Legacy
+
+#endif

@@ -1,0 +1,20 @@
+#ifndef ZELTNAVMSG_LEGACY_TABLES_BEIDOUFIELDTABLES_H
+#define ZELTNAVMSG_LEGACY_TABLES_BEIDOUFIELDTABLES_H
+
+#include <array>
+#include <cstddef>
+
+#include "legacy/SubframeFieldInfo.h"
+
+namespace ZeltNavMsg::Legacy {
+
+inline constexpr std::size_t kBeidouD1FieldCount = 133;
+inline constexpr std::size_t kBeidouD2FieldCount = 157;
+
+// Constant-initialised: usable from any static initialiser of a host.
+extern const std::array<SubframeFieldInfo, kBeidouD1FieldCount> kBeidouD1Fields;
+extern const std::array<SubframeFieldInfo, kBeidouD2FieldCount> kBeidouD2Fields;
+
+}  // namespace ZeltNavMsg::Legacy
+
+#endif
