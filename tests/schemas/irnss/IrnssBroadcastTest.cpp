@@ -1,5 +1,5 @@
-// Subframes as satellites broadcast them: four subframes 1 against the raw values of
-// the layout document, and the logged subframe 2 against values decoded by
+// Subframes as satellites broadcast them: four subframes 1 against the raw values
+// published with them, and the logged subframe 2 against values decoded by
 // independent decoders. IRNSS angles print in semicircles (units text "pi"), so the
 // ground truth in radians is divided by pi.
 
@@ -77,7 +77,7 @@ TEST(IrnssBroadcast, LiveSubframes1SharedFields) {
     }
 }
 
-// Every raw value the layout document gives for PRN 7: the raw hex read back as a
+// Every raw value published for PRN 7: the raw hex read back as a
 // two's-complement number of the field's width, and the value it prints.
 TEST(IrnssBroadcast, LiveSubframe1RawValues) {
     struct Raw {
