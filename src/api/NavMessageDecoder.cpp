@@ -12,6 +12,7 @@
 #include "legacy/GpsL1caInterface.h"
 #include "legacy/QzssL1caInterface.h"
 #include "schemas/gps_cnav2/FrameDef.h"
+#include "schemas/irnss/SubframeDef.h"
 #include "text/TextBuffer.h"
 
 namespace ZeltNavMsg {
@@ -126,6 +127,9 @@ std::string NavMessageDecoder::Decode(MessageFormat format, std::int32_t subfram
     switch (format) {
         case MessageFormat::GpsCNav2:
             describeFrame<GpsCNav2::FrameDef::kBits>(GpsCNav2::gpsCNav2FrameDef(), digits, out);
+            break;
+        case MessageFormat::Irnss:
+            describeFrame<Irnss::SubframeDef::kBits>(Irnss::irnssSubframeDef(), digits, out);
             break;
         case MessageFormat::GpsLNav:
             describeSubframe(Legacy::GPS_L1CA_Interface, subframeNumber, pageNumber, digits, out);
