@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Static analysis of the library (src/) and the CLI (tools/), with the compile commands
-# of the `clang` preset (configured here when missing):
+# of the `clang` preset (configured here, so that new files are in them):
 #   clang-tidy   the checks of .clang-tidy, every finding an error
 #   cppcheck     warning, performance, portability and style checks
 #   clang-query  no mutable global state in the library: every variable of static or
@@ -12,9 +12,7 @@ root=$PWD
 
 scripts/deps.sh clang clang-tidy clang-tools cppcheck python3
 build=build/clang
-if [ ! -f "$build/compile_commands.json" ]; then
-    cmake --preset clang >/dev/null
-fi
+cmake --preset clang >/dev/null
 jobs=$(nproc)
 
 # The compile commands of src/ and tools/ only, and their source files.
@@ -33,7 +31,7 @@ mapfile -t library < <(printf '%s\n' "${files[@]}" | grep "^$root/src/")
 echo "== static analysis: ${#files[@]} files (${#library[@]} of the library)" >&2
 
 echo "== clang-tidy" >&2
-run-clang-tidy-14 -quiet -p "$db" -j "$jobs" "${files[@]}" >"$db/tidy.log" 2>&1 || {
+run-clang-tidy -quiet -p "$db" -j "$jobs" "${files[@]}" >"$db/tidy.log" 2>&1 || {
     grep -E -A3 'warning:|error:' "$db/tidy.log" >&2 || cat "$db/tidy.log" >&2
     echo "clang-tidy: findings above" >&2
     exit 1
@@ -51,7 +49,7 @@ query="match varDecl(hasGlobalStorage(), unless(isConstexpr()),
     unless(hasType(isConstQualified())), unless(hasType(referenceType())),
     isExpansionInFileMatching(\"^$root/(src|include)/\"))"
 printf '%s\0' "${library[@]}" |
-    xargs -0 -n 4 -P "$jobs" clang-query-14 -p "$db" -c "set output diag" -c "$query" \
+    xargs -0 -n 4 -P "$jobs" clang-query -p "$db" -c "set output diag" -c "$query" \
         >"$db/query.log" 2>&1 || { cat "$db/query.log" >&2; exit 1; }
 if grep -q 'binds here' "$db/query.log"; then
     grep -B1 -A2 'binds here' "$db/query.log" >&2
