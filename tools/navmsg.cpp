@@ -268,11 +268,7 @@ int runFormats() {
     return 0;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    std::ios::sync_with_stdio(false);
-
+int run(int argc, char** argv) {
     CLI::App app{"Decodes GNSS navigation messages given as hex text into readable listings.",
                  "navmsg"};
     app.set_version_flag("--version", std::string("navmsg ") + ZELTNAVMSG_VERSION);
@@ -330,4 +326,20 @@ int main(int argc, char** argv) {
         return kExitUsage;
     }
     return kExitUsage;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::ios::sync_with_stdio(false);
+    // Anything the handlers above do not expect (out of memory, an internal error of the
+    // library outside a decode) ends the run with a reason instead of std::terminate.
+    try {
+        return run(argc, argv);
+    } catch (const std::exception& e) {
+        std::fprintf(stderr, "navmsg: %s\n", e.what());
+    } catch (...) {
+        std::fprintf(stderr, "navmsg: unexpected error\n");
+    }
+    return kExitFailedMessage;
 }

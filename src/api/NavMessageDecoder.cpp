@@ -17,9 +17,12 @@
 
 namespace ZeltNavMsg {
 
+// The std::runtime_error member only holds the text; nothing is thrown here.
+// NOLINTBEGIN(bugprone-throw-keyword-missing)
 DecodingError::DecodingError() : message_("") {}
 DecodingError::DecodingError(const std::string& message) : message_(message) {}
 DecodingError::DecodingError(const char* message) : message_(message) {}
+// NOLINTEND(bugprone-throw-keyword-missing)
 
 const char* DecodingError::what() const noexcept {
     return message_.what();

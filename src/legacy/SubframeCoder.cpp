@@ -6,7 +6,7 @@
 namespace ZeltNavMsg::Legacy {
 
 namespace {
-constexpr std::int64_t kDataBits = subframe_t::kDataBytes * 8;
+constexpr std::int64_t kDataBits = std::int64_t{subframe_t::kDataBytes} * 8;
 }
 
 std::uint32_t SubframeCoder::ReadWord(const subframe_t& sf, std::int32_t firstBit) noexcept {

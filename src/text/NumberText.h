@@ -55,7 +55,7 @@ inline char* writeUnsigned(char* p, std::uint64_t v) noexcept {
 
 // Decimal text of `v` with a leading "-" when negative, as "%ld" prints it.
 inline char* writeSigned(char* p, std::int64_t v) noexcept {
-    std::uint64_t magnitude = static_cast<std::uint64_t>(v);
+    auto magnitude = static_cast<std::uint64_t>(v);
     if (v < 0) {
         *p++ = '-';
         magnitude = ~magnitude + 1;  // well defined also for INT64_MIN

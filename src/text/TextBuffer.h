@@ -19,6 +19,8 @@ class TextBuffer {
   public:
     static constexpr std::size_t kInlineCapacity = 8192;
 
+    // inline_ stays uninitialised: nothing is read before it is written.
+    // cppcheck-suppress uninitMemberVar
     explicit TextBuffer(std::string_view lineEnd = "\n") noexcept : lineEnd_(lineEnd) {}
     TextBuffer(const TextBuffer&) = delete;
     TextBuffer& operator=(const TextBuffer&) = delete;

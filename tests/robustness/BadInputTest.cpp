@@ -1,0 +1,344 @@
+// Hostile input for every supported format: every call gives the documented listing or
+// the documented error. Expected listings are never written down here; they come from
+// relations that the decoding rules imply (a short input reads as if zero-padded, bits
+// beyond the frame change nothing, an unknown subframe prints only the common words),
+// each checked against the same real message decoded whole.
+
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <climits>
+#include <cstdint>
+#include <regex>
+#include <sstream>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+#include "support/DecodeOutcome.h"
+#include "support/SupportedFormats.h"
+
+namespace {
+
+using ZeltNavMsg::MessageFormat;
+using ZeltNavMsg::Testing::decodeOutcome;
+using ZeltNavMsg::Testing::DecodeOutcome;
+using ZeltNavMsg::Testing::errorOutcome;
+using ZeltNavMsg::Testing::kSupportedFormats;
+using ZeltNavMsg::Testing::Road;
+using ZeltNavMsg::Testing::SupportedFormat;
+using Kind = DecodeOutcome::Kind;
+
+const std::string kBadDigit = "Can't parse symbol as hex digit: ";
+const std::string kEmpty = "Decode: hex string is empty";
+const std::string kTooLong = "Decode: subframe data is longer than 38 bytes";
+const std::string kNotSupported = "Decoding is not supported yet for this message format";
+constexpr std::size_t kMegabyte = std::size_t{1} << 20;
+
+class BadInput : public testing::TestWithParam<SupportedFormat> {
+  protected:
+    [[nodiscard]] const SupportedFormat& format() const { return GetParam(); }
+    [[nodiscard]] std::string sample() const { return std::string(GetParam().sampleHex); }
+    [[nodiscard]] bool isSubframe() const { return GetParam().road == Road::Subframe; }
+
+    [[nodiscard]] DecodeOutcome decode(std::string_view hex) const {
+        return decode(format().subframe, format().page, hex);
+    }
+    [[nodiscard]] DecodeOutcome decode(std::int32_t subframe, std::int32_t page,
+                                       std::string_view hex) const {
+        return decodeOutcome(format().format, subframe, page, hex);
+    }
+
+    // Decodes while holding what goes to standard error (the word writer's reports).
+    [[nodiscard]] DecodeOutcome decodeQuietly(std::string_view hex, std::string& err) const {
+        testing::internal::CaptureStderr();
+        DecodeOutcome outcome = decode(hex);
+        err = testing::internal::GetCapturedStderr();
+        return outcome;
+    }
+
+    // `hex` followed by zero digits up to the whole frame.
+    [[nodiscard]] std::string padded(std::string hex) const {
+        const auto digits = static_cast<std::size_t>((format().frameBits + 3) / 4);
+        if (hex.size() < digits) {
+            hex.append(digits - hex.size(), '0');
+        }
+        return hex;
+    }
+};
+
+// The word writer's report for each word of a subframe that ends past the bits given:
+// word k occupies bits 30k-29 ... 30k (counted from 1) and fits when 30k <= 4 * digits.
+// `layout` is the layout id the report names.
+std::string wordReports(const std::string& layout, std::size_t digits) {
+    std::ostringstream text;
+    for (std::size_t k = 1; k <= 10; ++k) {
+        if (30 * k > 4 * digits) {
+            text << "The data does not fit in the subframe " << layout << ": data " << 30 * k + 1
+                 << ", sf-length " << 4 * digits + 1 << ".\n";
+        }
+    }
+    return text.str();
+}
+
+// The layout id in each report replaced by "L", to compare reports of any layout.
+std::string anyLayout(const std::string& reports) {
+    static const std::regex kLayout("subframe -?[0-9]+:");
+    return std::regex_replace(reports, kLayout, "subframe L:");
+}
+
+std::vector<std::string> lines(const std::string& text) {
+    std::vector<std::string> result;
+    std::size_t start = 0;
+    for (std::size_t end = text.find("\r\n"); end != std::string::npos;
+         end = text.find("\r\n", start)) {
+        result.push_back(text.substr(start, end - start));
+        start = end + 2;
+    }
+    result.push_back(text.substr(start));
+    return result;
+}
+
+// Whether `part` is `whole` with some lines left out, the rest in the same order.
+bool isOrderedSubset(const std::vector<std::string>& part, const std::vector<std::string>& whole) {
+    std::size_t w = 0;
+    for (const std::string& line : part) {
+        while (w < whole.size() && whole[w] != line) {
+            ++w;
+        }
+        if (w == whole.size()) {
+            return false;
+        }
+        ++w;
+    }
+    return true;
+}
+
+TEST_P(BadInput, EmptyOrWhiteSpaceOnlyIsOutOfRange) {
+    const DecodeOutcome empty = errorOutcome(Kind::OutOfRange, kEmpty);
+    for (const std::string hex : {"", " ", "\t", "\r\n", " \t\n\v\f\r "}) {
+        EXPECT_EQ(decode(hex), empty) << testing::PrintToString(hex);
+        EXPECT_EQ(decode(0, 0, hex), empty);
+        EXPECT_EQ(decode(INT32_MIN, INT32_MAX, hex), empty);
+    }
+}
+
+TEST_P(BadInput, FirstCharacterThatIsNoHexDigitIsNamed) {
+    const std::string s = sample();
+    const std::size_t mid = s.size() / 2;
+    const auto inserted = [&](const std::string& bad) {
+        return s.substr(0, mid) + bad + s.substr(mid);
+    };
+    const auto replaced = [&](std::size_t i, const std::string& by) {
+        return std::string(s).replace(i, 1, by);
+    };
+    struct Case {
+        const char* what;
+        std::string hex;
+        std::string named;
+    };
+    const Case cases[] = {
+        {"at the start", replaced(0, "g"), "g"},
+        {"in the middle", replaced(mid, "x"), "x"},
+        {"at the end", replaced(s.size() - 1, "G"), "G"},
+        {"0x prefix", "0x" + s, "x"},
+        {"sign", "-" + s, "-"},
+        {"inner blank", inserted(" "), " "},
+        {"inner tab", inserted("\t"), "\t"},
+        {"inner line feed", inserted("\n"), "\n"},
+        {"first of two", inserted("zq"), "z"},
+        {"two-byte character", inserted("\xC3\xA9"), "\xC3\xA9"},
+        {"three-byte character", inserted("\xE2\x82\xAC"), "\xE2\x82\xAC"},
+        {"four-byte character", inserted("\xF0\x9F\x9B\xB0"), "\xF0\x9F\x9B\xB0"},
+        {"no-break space is not trimmed", "\xC2\xA0" + s, "\xC2\xA0"},
+        {"byte that starts no character", inserted("\xFF"), "\xFF"},
+        {"cut multi-byte sequence", inserted("\xE2\x82"), "\xE2"},
+        {"bad character at the very end", s + "\xC3", "\xC3"},
+        {"after a megabyte of digits", s + std::string(kMegabyte, 'a') + "!", "!"},
+        // what() is a C string: a NUL character ends it.
+        {"NUL byte", inserted(std::string(1, '\0')), ""},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(decode(c.hex), errorOutcome(Kind::DecodingError, kBadDigit + c.named)) << c.what;
+    }
+    // Digits are checked before anything looks at subframe and page.
+    EXPECT_EQ(decode(INT32_MIN, -1, cases[0].hex), decode(cases[0].hex));
+}
+
+TEST_P(BadInput, SurroundingWhiteSpaceAndLetterCaseChangeNothing) {
+    const DecodeOutcome whole = decode(sample());
+    ASSERT_EQ(whole.kind, Kind::Text) << whole;
+    EXPECT_EQ(decode(" \t\r\n\v\f" + sample() + "\r\n \t"), whole);
+    std::string upper = sample();
+    for (char& c : upper) {
+        c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    }
+    EXPECT_EQ(decode(upper), whole);
+}
+
+// One digit, 15 digits (both odd counts, far too short) and, for frames, a cut in the
+// middle and one digit short: the listing is that of the same bits padded with zeros.
+// A subframe word that does not fit the bits given is left as received (and reported)
+// while in the padded input the coder decodes it, so the subframe cuts are chosen where
+// decoding leaves the padded words alone: "8" sets only the first bit, which no coder
+// changes; the 15 digits end with a whole word whose last bit is 0, and a zero word
+// after it stays zero (LNAV inverts a word only after one that ends in 1, a BCH
+// decoder keeps a zero codeword).
+TEST_P(BadInput, ShortInputReadsAsZeroPadded) {
+    // 15 digits are 60 bits, two whole subframe words; bit 60 is cleared.
+    std::string tenth = sample().substr(0, 15);
+    tenth.back() = "0123456789ABCDEF"[std::stoi(tenth.substr(14), nullptr, 16) & ~1];
+    std::vector<std::string> cuts = {"8", tenth};
+    if (!isSubframe()) {
+        cuts.push_back(sample().substr(0, 38));
+        cuts.push_back(sample().substr(0, sample().size() - 1));
+    }
+    for (const std::string& cut : cuts) {
+        std::string err;
+        std::string paddedErr;
+        const DecodeOutcome shortOutcome = decodeQuietly(cut, err);
+        const DecodeOutcome paddedOutcome = decodeQuietly(padded(cut), paddedErr);
+        ASSERT_EQ(shortOutcome.kind, Kind::Text) << cut << ": " << shortOutcome;
+        EXPECT_EQ(shortOutcome, paddedOutcome) << cut;
+        EXPECT_EQ(paddedErr, "") << cut;
+        EXPECT_EQ(anyLayout(err), isSubframe() ? wordReports("L", cut.size()) : "") << cut;
+    }
+}
+
+// An unknown subframe has layout 0, and the report says so.
+TEST_P(BadInput, WordReportsNameTheLayoutAndTheLengths) {
+    if (!isSubframe()) {
+        GTEST_SKIP() << "frames have no word writer";
+    }
+    for (std::size_t digits : {1U, 8U, 15U, 45U, 73U, 74U, 75U}) {
+        testing::internal::CaptureStderr();
+        const DecodeOutcome outcome = decode(0, 0, sample().substr(0, digits));
+        const std::string err = testing::internal::GetCapturedStderr();
+        EXPECT_EQ(outcome.kind, Kind::Text) << outcome;
+        EXPECT_EQ(err, wordReports("0", digits)) << digits << " digits";
+    }
+}
+
+TEST_P(BadInput, LongerThanTheFrame) {
+    const DecodeOutcome whole = decode(sample());
+    ASSERT_EQ(whole.kind, Kind::Text) << whole;
+    if (isSubframe()) {
+        ASSERT_EQ(sample().size(), 75U);
+        // 38 bytes fit the record, the four bits after the subframe change nothing.
+        EXPECT_EQ(decode(sample() + "F"), whole);
+        const DecodeOutcome tooLong = errorOutcome(Kind::LengthError, kTooLong);
+        EXPECT_EQ(decode(sample() + "F0"), tooLong);
+        EXPECT_EQ(decode(std::string(77, '0')), tooLong);
+        EXPECT_EQ(decode(sample() + std::string(kMegabyte, 'F')), tooLong);
+        EXPECT_EQ(decode(INT32_MAX, INT32_MIN, std::string(kMegabyte, '0')), tooLong);
+    } else {
+        ASSERT_GE(4 * sample().size(), static_cast<std::size_t>(format().frameBits));
+        EXPECT_EQ(decode(sample() + "F"), whole);
+        EXPECT_EQ(decode(sample() + std::string(kMegabyte, 'F')), whole);
+        EXPECT_EQ(decode(sample() + std::string(kMegabyte - 1, '0')), whole);
+    }
+}
+
+TEST_P(BadInput, PagesOutsideEveryTableActLikeNoPage) {
+    if (!isSubframe()) {
+        // Frames find their variant from their own bits.
+        const DecodeOutcome whole = decode(sample());
+        for (const auto& [subframe, page] :
+             {std::pair{0, 0}, {-1, -1}, {INT32_MIN, INT32_MAX}, {INT32_MAX, INT32_MIN}, {5, 25}}) {
+            EXPECT_EQ(decode(subframe, page, sample()), whole) << subframe << " " << page;
+        }
+        return;
+    }
+    const std::int32_t s = format().subframe;
+    const DecodeOutcome noPage = decode(s, 0, sample());
+    ASSERT_EQ(noPage.kind, Kind::Text);
+    const std::string header = "Subframe: " + std::to_string(s);
+    EXPECT_EQ(lines(noPage.text).front(), header);
+    EXPECT_EQ(decode(s, -1, sample()), noPage);
+    EXPECT_EQ(decode(s, INT32_MIN, sample()), noPage);
+    // A positive page is printed, even one that no table knows.
+    const DecodeOutcome maxPage = decode(s, INT32_MAX, sample());
+    const std::string maxHeader = header + " Page: 2147483647";
+    ASSERT_EQ(maxPage.kind, Kind::Text);
+    EXPECT_EQ(maxPage.text, maxHeader + noPage.text.substr(header.size()));
+}
+
+// A subframe number that no table knows prints the words and the fields that every
+// subframe has. (Subframe 0 is not such a number: it also selects the entries that a
+// table files under subframe 0, such as the almanac block of LNAV.)
+TEST_P(BadInput, UnknownSubframesPrintOnlyTheCommonWords) {
+    if (!isSubframe()) {
+        GTEST_SKIP() << "frames ignore the subframe number";
+    }
+    const std::vector<std::string> known = lines(decode(sample()).text);
+    std::vector<std::string> body;
+    for (const auto& [subframe, page, header] :
+         {std::tuple{-1, 0, "Subframe: -1"},
+          {6, 3, "Subframe: 6 Page: 3"},
+          {INT32_MIN, INT32_MIN, "Subframe: -2147483648"},
+          {INT32_MAX, INT32_MAX, "Subframe: 2147483647 Page: 2147483647"}}) {
+        const DecodeOutcome outcome = decode(subframe, page, sample());
+        ASSERT_EQ(outcome.kind, Kind::Text) << outcome;
+        std::vector<std::string> got = lines(outcome.text);
+        EXPECT_EQ(got.front(), header);
+        got.erase(got.begin());
+        if (body.empty()) {
+            body = got;
+            // The words and the fields every subframe has, without the subframe's own.
+            EXPECT_TRUE(isOrderedSubset(body, known));
+            EXPECT_LT(body.size() + 5, known.size());
+        }
+        EXPECT_EQ(got, body) << header;
+    }
+}
+
+}  // namespace
+
+namespace ZeltNavMsg::Testing {
+// Test names and failure messages show the format's name.
+void PrintTo(const SupportedFormat& row, std::ostream* out) {
+    *out << row.name;
+}
+}  // namespace ZeltNavMsg::Testing
+
+namespace {
+
+INSTANTIATE_TEST_SUITE_P(EveryFormat, BadInput, testing::ValuesIn(kSupportedFormats),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+// The checks come in a fixed order: digits, emptiness, format, length.
+TEST(BadFormat, ValuesOutsideTheEnumerationAreRefusedAfterTheDigits) {
+    const std::int32_t values[] = {-1, 13, 14, 255, INT32_MIN, INT32_MAX};
+    for (const SupportedFormat& row : kSupportedFormats) {
+        for (const std::int32_t value : values) {
+            const auto format = static_cast<MessageFormat>(value);
+            const std::string sample(row.sampleHex);
+            EXPECT_EQ(decodeOutcome(format, row.subframe, row.page, sample),
+                      errorOutcome(Kind::DecodingError, kNotSupported))
+                << value;
+            EXPECT_EQ(decodeOutcome(format, 1, 0, sample + std::string(kMegabyte, '0')),
+                      errorOutcome(Kind::DecodingError, kNotSupported));
+            EXPECT_EQ(decodeOutcome(format, 1, 0, " \t"), errorOutcome(Kind::OutOfRange, kEmpty));
+            EXPECT_EQ(decodeOutcome(format, 1, 0, sample + "z"),
+                      errorOutcome(Kind::DecodingError, kBadDigit + "z"));
+        }
+    }
+}
+
+// A format that decodes must have its row in kSupportedFormats, or none of the
+// hostile-input tests, the many-threads test or the fuzz target would cover it.
+TEST(BadFormat, EveryFormatThatDecodesIsInTheTable) {
+    for (std::int32_t value = 0; value <= 12; ++value) {
+        const auto format = static_cast<MessageFormat>(value);
+        const DecodeOutcome outcome = decodeOutcome(format, 1, 0, std::string(76, '0'));
+        if (ZeltNavMsg::Testing::findSupported(format) != nullptr) {
+            EXPECT_EQ(outcome.kind, Kind::Text) << value << ": " << outcome;
+        } else {
+            EXPECT_EQ(outcome, errorOutcome(Kind::DecodingError, kNotSupported))
+                << "format " << value << " decodes: add its row to kSupportedFormats";
+        }
+    }
+}
+
+}  // namespace
