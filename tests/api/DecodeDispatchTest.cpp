@@ -50,8 +50,7 @@ TEST(DecodeDispatch, UnsupportedFormatsAreRefused) {
 
 // Formats whose decoders have not landed yet are refused like the unsupported ones.
 TEST(DecodeDispatch, FormatsNotDecodedYet) {
-    for (const MessageFormat format :
-         {MessageFormat::BeidouCNav1, MessageFormat::BeidouCNav2, MessageFormat::Irnss}) {
+    for (const MessageFormat format : {MessageFormat::Irnss}) {
         EXPECT_EQ(messageOf<DecodingError>(format, "00"),
                   "Decoding is not supported yet for this message format")
             << static_cast<int>(format);
