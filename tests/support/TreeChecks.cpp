@@ -135,4 +135,32 @@ std::multimap<std::string, TreeLine> parseTreeListing(std::string_view text) {
     return lines;
 }
 
+namespace {
+
+const TreeLine* onlyTreeLine(const std::multimap<std::string, TreeLine>& lines,
+                             const std::string& path, const std::string& where) {
+    if (lines.count(path) != 1) {
+        ADD_FAILURE() << where << ": expected one line " << path << ", found " << lines.count(path);
+        return nullptr;
+    }
+    return &lines.find(path)->second;
+}
+
+}  // namespace
+
+void expectTreeValue(const std::multimap<std::string, TreeLine>& lines, const std::string& path,
+                     double truth, const std::string& where) {
+    if (const TreeLine* line = onlyTreeLine(lines, path, where)) {
+        EXPECT_TRUE(sameToSixDigits(std::stod(line->value), truth))
+            << where << " " << path << ": printed " << line->value << ", truth " << truth;
+    }
+}
+
+void expectTreeInteger(const std::multimap<std::string, TreeLine>& lines, const std::string& path,
+                       long long truth, const std::string& where) {
+    if (const TreeLine* line = onlyTreeLine(lines, path, where)) {
+        EXPECT_EQ(line->value, std::to_string(truth)) << where << " " << path;
+    }
+}
+
 }  // namespace ZeltNavMsg::Testing

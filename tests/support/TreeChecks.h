@@ -28,6 +28,13 @@ struct TreeLine {
 // land in `value` (nothing tells them apart from a value there).
 std::multimap<std::string, TreeLine> parseTreeListing(std::string_view text);
 
+// Real-data checks on a parsed listing: the only line at `path` shows `truth` to six
+// significant digits, or exactly the integer `truth`. Failures name `where`.
+void expectTreeValue(const std::multimap<std::string, TreeLine>& lines, const std::string& path,
+                     double truth, const std::string& where);
+void expectTreeInteger(const std::multimap<std::string, TreeLine>& lines, const std::string& path,
+                       long long truth, const std::string& where);
+
 }  // namespace ZeltNavMsg::Testing
 
 #endif
