@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <vector>
 
@@ -135,32 +136,29 @@ std::multimap<std::string, TreeLine> parseTreeListing(std::string_view text) {
     return lines;
 }
 
-namespace {
-
-const TreeLine* onlyTreeLine(const std::multimap<std::string, TreeLine>& lines,
-                             const std::string& path, const std::string& where) {
-    if (lines.count(path) != 1) {
-        ADD_FAILURE() << where << ": expected one line " << path << ", found " << lines.count(path);
-        return nullptr;
-    }
-    return &lines.find(path)->second;
-}
-
-}  // namespace
-
 void expectTreeValue(const std::multimap<std::string, TreeLine>& lines, const std::string& path,
                      double truth, const std::string& where) {
-    if (const TreeLine* line = onlyTreeLine(lines, path, where)) {
-        EXPECT_TRUE(sameToSixDigits(std::stod(line->value), truth))
-            << where << " " << path << ": printed " << line->value << ", truth " << truth;
+    if (lines.count(path) != 1) {
+        ADD_FAILURE() << where << ": expected one line " << path << ", found " << lines.count(path);
+        return;
     }
+    const std::string& printed = lines.find(path)->second.value;
+    EXPECT_TRUE(sameToSixDigits(std::stod(printed), truth))
+        << where << " " << path << ": printed " << printed << ", truth " << truth;
 }
 
-void expectTreeInteger(const std::multimap<std::string, TreeLine>& lines, const std::string& path,
-                       long long truth, const std::string& where) {
-    if (const TreeLine* line = onlyTreeLine(lines, path, where)) {
-        EXPECT_EQ(line->value, std::to_string(truth)) << where << " " << path;
+std::vector<std::string> decodeTreeLines(MessageFormat format, const std::string& hex) {
+    const std::string text = NavMessageDecoder::Decode(format, 0, 0, hex);
+    EXPECT_FALSE(text.ends_with("\n"));
+    return splitLines(text);
+}
+
+void expectSameLines(const std::vector<std::string>& got,
+                     const std::vector<std::string>& expected) {
+    for (std::size_t i = 0; i < std::min(got.size(), expected.size()); ++i) {
+        ASSERT_EQ(got[i], expected[i]) << "line " << i + 1;
     }
+    EXPECT_EQ(got.size(), expected.size());
 }
 
 }  // namespace ZeltNavMsg::Testing
