@@ -11,6 +11,8 @@
 #include "legacy/BeidouD2Interface.h"
 #include "legacy/GpsL1caInterface.h"
 #include "legacy/QzssL1caInterface.h"
+#include "schemas/beidou_cnav1/FrameDef.h"
+#include "schemas/beidou_cnav2/FrameDef.h"
 #include "schemas/gps_cnav2/FrameDef.h"
 #include "schemas/irnss/SubframeDef.h"
 #include "text/TextBuffer.h"
@@ -133,6 +135,14 @@ std::string NavMessageDecoder::Decode(MessageFormat format, std::int32_t subfram
             break;
         case MessageFormat::Irnss:
             describeFrame<Irnss::SubframeDef::kBits>(Irnss::irnssSubframeDef(), digits, out);
+            break;
+        case MessageFormat::BeidouCNav1:
+            describeFrame<BeidouCNav1::FrameDef::kBits>(BeidouCNav1::beidouCNav1FrameDef(), digits,
+                                                        out);
+            break;
+        case MessageFormat::BeidouCNav2:
+            describeFrame<BeidouCNav2::FrameDef::kBits>(BeidouCNav2::beidouCNav2FrameDef(), digits,
+                                                        out);
             break;
         case MessageFormat::GpsLNav:
             describeSubframe(Legacy::GPS_L1CA_Interface, subframeNumber, pageNumber, digits, out);

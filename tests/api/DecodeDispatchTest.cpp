@@ -48,15 +48,6 @@ TEST(DecodeDispatch, UnsupportedFormatsAreRefused) {
     }
 }
 
-// Formats whose decoders have not landed yet are refused like the unsupported ones.
-TEST(DecodeDispatch, FormatsNotDecodedYet) {
-    for (const MessageFormat format : {MessageFormat::BeidouCNav1, MessageFormat::BeidouCNav2}) {
-        EXPECT_EQ(messageOf<DecodingError>(format, "00"),
-                  "Decoding is not supported yet for this message format")
-            << static_cast<int>(format);
-    }
-}
-
 TEST(DecodeDispatch, BadDigitIsReportedBeforeTheFormat) {
     EXPECT_EQ(messageOf<DecodingError>(MessageFormat::CNav, "zz"),
               "Can't parse symbol as hex digit: z");

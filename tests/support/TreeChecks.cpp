@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <vector>
 
@@ -133,6 +134,31 @@ std::multimap<std::string, TreeLine> parseTreeListing(std::string_view text) {
         lines.emplace(path, parsed);
     }
     return lines;
+}
+
+void expectTreeValue(const std::multimap<std::string, TreeLine>& lines, const std::string& path,
+                     double truth, const std::string& where) {
+    if (lines.count(path) != 1) {
+        ADD_FAILURE() << where << ": expected one line " << path << ", found " << lines.count(path);
+        return;
+    }
+    const std::string& printed = lines.find(path)->second.value;
+    EXPECT_TRUE(sameToSixDigits(std::stod(printed), truth))
+        << where << " " << path << ": printed " << printed << ", truth " << truth;
+}
+
+std::vector<std::string> decodeTreeLines(MessageFormat format, const std::string& hex) {
+    const std::string text = NavMessageDecoder::Decode(format, 0, 0, hex);
+    EXPECT_FALSE(text.ends_with("\n"));
+    return splitLines(text);
+}
+
+void expectSameLines(const std::vector<std::string>& got,
+                     const std::vector<std::string>& expected) {
+    for (std::size_t i = 0; i < std::min(got.size(), expected.size()); ++i) {
+        ASSERT_EQ(got[i], expected[i]) << "line " << i + 1;
+    }
+    EXPECT_EQ(got.size(), expected.size());
 }
 
 }  // namespace ZeltNavMsg::Testing

@@ -4,8 +4,10 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "fields/BitStructDef.h"
+#include "zeltnavmsg/NavMessageDecoder.h"
 
 namespace ZeltNavMsg::Testing {
 
@@ -27,6 +29,17 @@ struct TreeLine {
 // line's name, joined by "/" ("Subframe 2/Ephemeris/M0"). A raw-hex-only line's digits
 // land in `value` (nothing tells them apart from a value there).
 std::multimap<std::string, TreeLine> parseTreeListing(std::string_view text);
+
+// Real-data check on a parsed listing: the only line at `path` shows `truth` to six
+// significant digits. Failures name `where`.
+void expectTreeValue(const std::multimap<std::string, TreeLine>& lines, const std::string& path,
+                     double truth, const std::string& where);
+
+// The lines of Decode(format, 0, 0, hex); checks that the last line has no line end.
+std::vector<std::string> decodeTreeLines(MessageFormat format, const std::string& hex);
+
+// Line by line, so that a failure names the first line that differs; then the counts.
+void expectSameLines(const std::vector<std::string>& got, const std::vector<std::string>& expected);
 
 }  // namespace ZeltNavMsg::Testing
 

@@ -146,7 +146,8 @@ TEST(NavmsgCli, FormatsListsNamesAndWhatDecodes) {
     EXPECT_NE(run.out.find("G  GPS"), std::string::npos);
     EXPECT_NE(run.out.find(" LNAV (default, decodes)"), std::string::npos);
     EXPECT_NE(run.out.find(" INAV (not decoded)"), std::string::npos);
-    EXPECT_NE(run.out.find(" D1 (default, decodes) D2 (decodes)"), std::string::npos);
+    EXPECT_NE(run.out.find(" D1 (default, decodes) D2 (decodes) CNAV1 (decodes) CNAV2 (decodes)"),
+              std::string::npos);
     EXPECT_NE(run.out.find(" IRNSS (default, decodes)"), std::string::npos);
     EXPECT_NE(run.out.find("B2a"), std::string::npos);
 }
