@@ -6,18 +6,61 @@
 namespace ZeltNavMsg::Legacy {
 
 namespace {
+
 constexpr std::int64_t kDataBits = subframe_t::kDataBytes * 8;
+constexpr std::uint32_t kWordMask = 0x3FFFFFFFU;
+
+// A 30-bit word starting at bit index `index` (from 0) lies in the five bytes from
+// index / 8 on. Those of them past the data read as zero and are never written.
+constexpr bool wordInsideData(std::int64_t index) noexcept {
+    return index >= 0 && index + 30 <= kDataBits;
 }
 
-std::uint32_t SubframeCoder::ReadWord(const subframe_t& sf, std::int32_t firstBit) noexcept {
+std::uint64_t readFiveBytes(const std::uint8_t* data, std::int64_t firstByte) noexcept {
+    std::uint64_t window = 0;
+    for (std::int64_t b = firstByte; b < firstByte + 5; ++b) {
+        window = (window << 8) | (b < subframe_t::kDataBytes ? data[b] : 0U);
+    }
+    return window;
+}
+
+// Bit by bit, for words that hang over either end of the data.
+std::uint32_t readWordBits(const subframe_t& sf, std::int64_t index) noexcept {
     std::uint32_t word = 0;
-    for (std::int64_t bit = firstBit - 1; bit < std::int64_t{firstBit} + 29; ++bit) {
+    for (std::int64_t bit = index; bit < index + 30; ++bit) {
         word <<= 1;
         if (bit >= 0 && bit < kDataBits) {
             word |= (sf.data[bit / 8] >> (7 - bit % 8)) & 1U;
         }
     }
     return word;
+}
+
+void writeWordBits(subframe_t& sf, std::int64_t index, std::uint32_t value) noexcept {
+    for (std::int64_t i = 0; i < 30; ++i) {
+        const std::int64_t bit = index + i;
+        if (bit < 0 || bit >= kDataBits) {
+            continue;  // only a record that claims more bits than it holds gets here
+        }
+        const auto mask = static_cast<std::uint8_t>(0x80U >> (bit % 8));
+        if ((value >> (29 - i)) & 1U) {
+            sf.data[bit / 8] |= mask;
+        } else {
+            sf.data[bit / 8] &= static_cast<std::uint8_t>(~mask);
+        }
+    }
+}
+
+}  // namespace
+
+std::uint32_t SubframeCoder::ReadWord(const subframe_t& sf, std::int32_t firstBit) noexcept {
+    const std::int64_t index = std::int64_t{firstBit} - 1;
+    if (!wordInsideData(index)) {
+        return readWordBits(sf, index);
+    }
+    // 40 bits from the word's first byte; the word starts index % 8 bits in.
+    const std::uint64_t window = readFiveBytes(sf.data, index / 8);
+    return static_cast<std::uint32_t>(window >> (10 - index % 8)) & kWordMask;
 }
 
 bool SubframeCoder::WriteWord(subframe_t& sf, std::int32_t firstBit, std::uint32_t value) {
@@ -30,17 +73,19 @@ bool SubframeCoder::WriteWord(subframe_t& sf, std::int32_t firstBit, std::uint32
                      sf.layoutId, end, limit);
         return true;
     }
-    for (std::int64_t i = 0; i < 30; ++i) {
-        const std::int64_t bit = firstBit - 1 + i;
-        if (bit < 0 || bit >= kDataBits) {
-            continue;  // only a record that claims more bits than it holds gets here
-        }
-        const auto mask = static_cast<std::uint8_t>(0x80U >> (bit % 8));
-        if ((value >> (29 - i)) & 1U) {
-            sf.data[bit / 8] |= mask;
-        } else {
-            sf.data[bit / 8] &= static_cast<std::uint8_t>(~mask);
-        }
+    const std::int64_t index = std::int64_t{firstBit} - 1;
+    if (!wordInsideData(index)) {
+        writeWordBits(sf, index, value);
+        return false;
+    }
+    const std::int64_t firstByte = index / 8;
+    const auto shift = static_cast<int>(10 - index % 8);
+    std::uint64_t window = readFiveBytes(sf.data, firstByte);
+    window &= ~(std::uint64_t{kWordMask} << shift);
+    window |= std::uint64_t{value & kWordMask} << shift;
+    const std::int64_t lastByte = (index + 29) / 8;
+    for (std::int64_t b = lastByte; b >= firstByte; --b) {
+        sf.data[b] = static_cast<std::uint8_t>(window >> (8 * (firstByte + 4 - b)));
     }
     return false;
 }
