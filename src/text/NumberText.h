@@ -1,6 +1,7 @@
 #ifndef ZELTNAVMSG_TEXT_NUMBERTEXT_H
 #define ZELTNAVMSG_TEXT_NUMBERTEXT_H
 
+#include <bit>
 #include <charconv>
 #include <cstdint>
 #include <cstring>
@@ -66,14 +67,8 @@ inline char* writeSigned(char* p, std::int64_t v) noexcept {
 // Upper-case hex digits of `v`, zero-padded on the left to at least `minDigits`,
 // as "%0*lX" prints it.
 inline char* writeHex(char* p, std::uint64_t v, int minDigits) noexcept {
-    int n = 1;
-    for (std::uint64_t t = v >> 4; t != 0; t >>= 4) {
-        ++n;
-    }
-    if (n < minDigits) {
-        n = minDigits;
-    }
-    char* end = p + n;
+    const int significant = v == 0 ? 1 : static_cast<int>((std::bit_width(v) + 3) / 4);
+    char* const end = p + (significant > minDigits ? significant : minDigits);
     for (char* q = end; q != p; v >>= 4) {
         *--q = Detail::kHexDigits[v & 0xF];
     }
