@@ -1,6 +1,7 @@
 #include "legacy/SubframeIf.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 
 #include "text/NumberText.h"
@@ -36,6 +37,13 @@ std::int32_t signExtend(std::uint32_t value, std::int32_t width) {
 }
 
 std::uint64_t loadBigEndian64(const std::uint8_t* p) noexcept {
+#if defined(__GNUC__) || defined(__clang__)
+    if constexpr (std::endian::native == std::endian::little) {
+        std::uint64_t v = 0;
+        std::memcpy(&v, p, 8);
+        return __builtin_bswap64(v);
+    }
+#endif
     std::uint64_t v = 0;
     for (int i = 0; i < 8; ++i) {
         v = (v << 8) | p[i];
