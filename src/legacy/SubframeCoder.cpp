@@ -18,6 +18,12 @@ constexpr bool wordInsideData(std::int64_t index) noexcept {
 
 std::uint64_t readFiveBytes(const std::uint8_t* data, std::int64_t firstByte) noexcept {
     std::uint64_t window = 0;
+    if (firstByte + 5 <= subframe_t::kDataBytes) {
+        for (int i = 0; i < 5; ++i) {
+            window = (window << 8) | data[firstByte + i];
+        }
+        return window;
+    }
     for (std::int64_t b = firstByte; b < firstByte + 5; ++b) {
         window = (window << 8) | (b < subframe_t::kDataBytes ? data[b] : 0U);
     }
@@ -83,9 +89,17 @@ bool SubframeCoder::WriteWord(subframe_t& sf, std::int32_t firstBit, std::uint32
     std::uint64_t window = readFiveBytes(sf.data, firstByte);
     window &= ~(std::uint64_t{kWordMask} << shift);
     window |= std::uint64_t{value & kWordMask} << shift;
-    const std::int64_t lastByte = (index + 29) / 8;
-    for (std::int64_t b = lastByte; b >= firstByte; --b) {
-        sf.data[b] = static_cast<std::uint8_t>(window >> (8 * (firstByte + 4 - b)));
+    // All five bytes go back when they are all inside the record (those the word
+    // does not cover keep their value); otherwise only the ones the word covers.
+    std::uint8_t* const bytes = sf.data + firstByte;
+    if (firstByte + 5 <= subframe_t::kDataBytes) {
+        for (int i = 0; i < 5; ++i) {
+            bytes[i] = static_cast<std::uint8_t>(window >> (32 - 8 * i));
+        }
+    } else {
+        for (std::int64_t i = 0; i <= (index + 29) / 8 - firstByte; ++i) {
+            bytes[i] = static_cast<std::uint8_t>(window >> (32 - 8 * i));
+        }
     }
     return false;
 }
