@@ -49,7 +49,7 @@ ScaledDigits scale(std::uint64_t m, int e, int k) noexcept {
 // The six-digit significand `digits` (100000 ... 999999) of a value whose first
 // digit has the decimal exponent `exponent`, laid out as "%g" does. The text is
 // put together in a local buffer with fixed-size copies and copied out whole.
-char* layOut(char* p, std::uint64_t digits, int exponent) noexcept {
+char* layOut(char* p, bool negative, std::uint64_t digits, int exponent) noexcept {
     char text[16];  // the six digits, then zeros for the fixed-size copies below
     std::memcpy(text, Detail::kDigitPairs + 2 * (digits / 10000), 2);
     std::memcpy(text + 2, Detail::kDigitPairs + 2 * (digits / 100 % 100), 2);
@@ -60,7 +60,9 @@ char* layOut(char* p, std::uint64_t digits, int exponent) noexcept {
         --count;
     }
 
-    char out[32] = {};
+    char buffer[32] = {};
+    buffer[0] = '-';
+    char* const out = buffer + (negative ? 1 : 0);
     std::size_t length = 0;
     if (exponent < -4 || exponent >= 6) {
         out[0] = text[0];
@@ -87,8 +89,8 @@ char* layOut(char* p, std::uint64_t digits, int exponent) noexcept {
         std::memcpy(out + 2 + zeros, text, 8);
         length = 2 + zeros + count;
     }
-    std::memcpy(p, out, kMaxGLength);
-    return p + length;
+    std::memcpy(p, buffer, kMaxGLength);
+    return p + (out - buffer) + length;
 }
 
 #endif
@@ -136,10 +138,7 @@ char* writeG(char* p, double v) noexcept {
             ++exponent;
         }
     }
-    if (bits >> 63) {
-        *p++ = '-';
-    }
-    return layOut(p, digits, exponent);
+    return layOut(p, (bits >> 63) != 0, digits, exponent);
 #else
     return writeGByLibrary(p, v);
 #endif
