@@ -8,7 +8,7 @@ namespace ZeltNavMsg::Legacy {
 namespace {
 
 constexpr std::int64_t kDataBits = subframe_t::kDataBytes * 8;
-constexpr std::uint32_t kWordMask = 0x3FFFFFFFU;
+constexpr std::uint32_t kMask30 = 0x3FFFFFFFU;  // the bits of one word
 
 // A 30-bit word starting at bit index `index` (from 0) lies in the five bytes from
 // index / 8 on. Those of them past the data read as zero and are never written.
@@ -16,7 +16,8 @@ constexpr bool wordInsideData(std::int64_t index) noexcept {
     return index >= 0 && index + 30 <= kDataBits;
 }
 
-std::uint64_t readFiveBytes(const std::uint8_t* data, std::int64_t firstByte) noexcept {
+// Bytes past the data read as zero.
+std::uint64_t readFiveBytesOfData(const std::uint8_t* data, std::int64_t firstByte) noexcept {
     std::uint64_t window = 0;
     if (firstByte + 5 <= subframe_t::kDataBytes) {
         for (int i = 0; i < 5; ++i) {
@@ -59,17 +60,17 @@ void writeWordBits(subframe_t& sf, std::int64_t index, std::uint32_t value) noex
 
 }  // namespace
 
-std::uint32_t SubframeCoder::ReadWord(const subframe_t& sf, std::int32_t firstBit) noexcept {
+std::uint32_t SubframeCoder::ReadWordAtEdge(const subframe_t& sf, std::int32_t firstBit) noexcept {
     const std::int64_t index = std::int64_t{firstBit} - 1;
     if (!wordInsideData(index)) {
         return readWordBits(sf, index);
     }
     // 40 bits from the word's first byte; the word starts index % 8 bits in.
-    const std::uint64_t window = readFiveBytes(sf.data, index / 8);
-    return static_cast<std::uint32_t>(window >> (10 - index % 8)) & kWordMask;
+    const std::uint64_t window = readFiveBytesOfData(sf.data, index / 8);
+    return static_cast<std::uint32_t>(window >> (10 - index % 8)) & kMask30;
 }
 
-bool SubframeCoder::WriteWord(subframe_t& sf, std::int32_t firstBit, std::uint32_t value) {
+bool SubframeCoder::WriteWordAtEdge(subframe_t& sf, std::int32_t firstBit, std::uint32_t value) {
     const std::int64_t end = std::int64_t{firstBit} + 30;
     const std::int64_t limit = std::int64_t{sf.bitCount} + 1;
     if (end > limit) {
@@ -86,9 +87,9 @@ bool SubframeCoder::WriteWord(subframe_t& sf, std::int32_t firstBit, std::uint32
     }
     const std::int64_t firstByte = index / 8;
     const auto shift = static_cast<int>(10 - index % 8);
-    std::uint64_t window = readFiveBytes(sf.data, firstByte);
-    window &= ~(std::uint64_t{kWordMask} << shift);
-    window |= std::uint64_t{value & kWordMask} << shift;
+    std::uint64_t window = readFiveBytesOfData(sf.data, firstByte);
+    window &= ~(std::uint64_t{kMask30} << shift);
+    window |= std::uint64_t{value & kMask30} << shift;
     // All five bytes go back when they are all inside the record (those the word
     // does not cover keep their value); otherwise only the ones the word covers.
     std::uint8_t* const bytes = sf.data + firstByte;
