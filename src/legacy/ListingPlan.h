@@ -47,6 +47,11 @@ struct PlannedLine {
     // Hex digits are counted up to this many: beyond 60 only zeros survive the cut.
     static constexpr int kMaxHexDigits = 68;
     static constexpr std::size_t kShortUnits = 32;
+    // Room a line takes in the output buffer, long units aside: an empty line
+    // before it, the label and hex pieces (each at most 63 characters, copied in
+    // 32-byte blocks), a blank and a number, a quoted character with a line end
+    // inside, 32 bytes of units and the line end (two bytes stored each).
+    static constexpr std::size_t kRoom = 2 + 64 + 3 + kMaxHexDigits + 24 + 6 + kShortUnits + 2;
 
     char label[64] = {};              // "%20s:" of the name
     char units[kShortUnits] = {};     // " " and the units, when that fits
@@ -61,6 +66,11 @@ struct PlannedLine {
     bool showCharacter = false;  // " '%c'" after the number
     std::uint8_t segmentCount = 0;
     PlannedSegment segments[SubframeFieldInfo::kMaxSegments] = {};
+
+    // Room for this line, long units included.
+    [[nodiscard]] constexpr std::size_t room() const {
+        return kRoom + (longUnits != nullptr ? unitsLength : 0U);
+    }
 };
 
 // Neighbouring lines printed under the same condition.
@@ -71,6 +81,7 @@ struct PlannedRun {
     std::uint16_t first = 0;
     std::uint16_t count = 0;
     bool rawPass = false;
+    std::uint32_t room = 0;  // the sum of its lines' room()
 };
 
 // The plan of one signal's table, as SubframeIf reads it.
@@ -221,10 +232,12 @@ constexpr ListingPlanData<N> planListing(const std::array<SubframeFieldInfo, N>&
                     field.page,
                     static_cast<std::uint16_t>(data.lineCount),
                     0,
-                    rawPass};
+                    rawPass,
+                    0};
         }
-        data.lines[data.lineCount++] = planLine(field);
+        const PlannedLine& line = data.lines[data.lineCount++] = planLine(field);
         ++run->count;
+        run->room += static_cast<std::uint32_t>(line.room());
     }
     return data;
 }

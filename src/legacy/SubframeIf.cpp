@@ -63,14 +63,10 @@ std::uint32_t readValue(const PlannedLine& line, const std::uint8_t* bits) noexc
     return static_cast<std::uint32_t>(value);
 }
 
-// Room for the longest line but long units: the label and hex pieces (each cut at 63
-// characters, copied in 32-byte blocks), a number, a quoted character with a line
-// end inside, 32 bytes of units and the line end.
-constexpr std::size_t kMaxLine =
-    64 + 3 + PlannedLine::kMaxHexDigits + 24 + 6 + PlannedLine::kShortUnits + 2;
-
-void writeLine(Text::TextBuffer& out, const PlannedLine& line, const std::uint8_t* bits) {
-    char* p = out.reserve(kMaxLine);
+// Writes the line at `p`, where line.room() characters may be stored, and returns
+// its end. `out` gives the line end.
+inline char* writeLine(char* p, const PlannedLine& line, const std::uint8_t* bits,
+                const Text::TextBuffer& out) noexcept {
     std::memcpy(p, line.label, 32);
     if (line.labelLength > 32) {
         std::memcpy(p + 32, line.label + 32, 32);
@@ -123,15 +119,13 @@ void writeLine(Text::TextBuffer& out, const PlannedLine& line, const std::uint8_
     if (line.unitsLength != 0) {
         if (line.longUnits == nullptr) {
             std::memcpy(p, line.units, PlannedLine::kShortUnits);
-            p += line.unitsLength;
         } else {
-            out.commit(p);
-            out.append(' ');
-            out.append(line.longUnits);
-            p = out.reserve(2);
+            *p = ' ';
+            std::memcpy(p + 1, line.longUnits, line.unitsLength - 1U);
         }
+        p += line.unitsLength;
     }
-    out.commit(out.putLineEnd(p));
+    return out.putLineEnd(p);
 }
 
 }  // namespace
@@ -165,20 +159,22 @@ void SubframeIf::DescribeFields(Text::TextBuffer& out, const subframe_t& sf,
                entryLayout == layoutId;
     };
     std::int32_t group = 0;
-    const auto print = [&out, bits, &group](const PlannedLine& line) {
+    const auto print = [&out, bits, &group](char* p, const PlannedLine& line) {
         if (line.group != group) {
-            out.newline();
+            p = out.putLineEnd(p);
             group = line.group;
         }
-        writeLine(out, line, bits);
+        return writeLine(p, line, bits, out);
     };
 
     if (plan_ != nullptr) {
         for (const PlannedRun& run : plan_->runs) {
             if (run.rawPass == rawPass && selected(run.layoutId, run.subframe, run.page)) {
+                char* p = out.reserve(run.room);
                 for (const PlannedLine& line : plan_->lines.subspan(run.first, run.count)) {
-                    print(line);
+                    p = print(p, line);
                 }
+                out.commit(p);
             }
         }
         return;
@@ -186,7 +182,8 @@ void SubframeIf::DescribeFields(Text::TextBuffer& out, const subframe_t& sf,
     for (const SubframeFieldInfo& field : fields()) {
         if (isPrinted(field) && ((field.flags & kRawPass) != 0) == rawPass &&
             selected(field.layoutId, field.subframe, field.page)) {
-            print(planLine(field));
+            const PlannedLine line = planLine(field);
+            out.commit(print(out.reserve(line.room()), line));
         }
     }
 }
