@@ -81,7 +81,6 @@ struct PlannedRun {
     std::uint16_t first = 0;
     std::uint16_t count = 0;
     bool rawPass = false;
-    std::uint32_t room = 0;  // the sum of its lines' room()
 };
 
 // The plan of one signal's table, as SubframeIf reads it.
@@ -232,12 +231,10 @@ constexpr ListingPlanData<N> planListing(const std::array<SubframeFieldInfo, N>&
                     field.page,
                     static_cast<std::uint16_t>(data.lineCount),
                     0,
-                    rawPass,
-                    0};
+                    rawPass};
         }
-        const PlannedLine& line = data.lines[data.lineCount++] = planLine(field);
+        data.lines[data.lineCount++] = planLine(field);
         ++run->count;
-        run->room += static_cast<std::uint32_t>(line.room());
     }
     return data;
 }

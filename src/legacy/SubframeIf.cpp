@@ -63,10 +63,14 @@ std::uint32_t readValue(const PlannedLine& line, const std::uint8_t* bits) noexc
     return static_cast<std::uint32_t>(value);
 }
 
+// Output room is taken this much at a time: small enough that a listing stays in the
+// TextBuffer's inline storage, large enough for a pass or two.
+constexpr std::size_t kRoomChunk = 2048;
+
 // Writes the line at `p`, where line.room() characters may be stored, and returns
 // its end. `out` gives the line end.
 inline char* writeLine(char* p, const PlannedLine& line, const std::uint8_t* bits,
-                const Text::TextBuffer& out) noexcept {
+                       const Text::TextBuffer& out) noexcept {
     std::memcpy(p, line.label, 32);
     if (line.labelLength > 32) {
         std::memcpy(p + 32, line.label + 32, 32);
@@ -159,32 +163,48 @@ void SubframeIf::DescribeFields(Text::TextBuffer& out, const subframe_t& sf,
                entryLayout == layoutId;
     };
     std::int32_t group = 0;
-    const auto print = [&out, bits, &group](char* p, const PlannedLine& line) {
-        if (line.group != group) {
-            p = out.putLineEnd(p);
-            group = line.group;
-        }
-        return writeLine(p, line, bits, out);
-    };
-
-    if (plan_ != nullptr) {
-        for (const PlannedRun& run : plan_->runs) {
-            if (run.rawPass == rawPass && selected(run.layoutId, run.subframe, run.page)) {
-                char* p = out.reserve(run.room);
-                for (const PlannedLine& line : plan_->lines.subspan(run.first, run.count)) {
-                    p = print(p, line);
+    if (plan_ == nullptr) {
+        for (const SubframeFieldInfo& field : fields()) {
+            if (isPrinted(field) && ((field.flags & kRawPass) != 0) == rawPass &&
+                selected(field.layoutId, field.subframe, field.page)) {
+                const PlannedLine line = planLine(field);
+                char* p = out.reserve(line.room());
+                if (line.group != group) {
+                    p = out.putLineEnd(p);
+                    group = line.group;
                 }
-                out.commit(p);
+                out.commit(writeLine(p, line, bits, out));
             }
         }
         return;
     }
-    for (const SubframeFieldInfo& field : fields()) {
-        if (isPrinted(field) && ((field.flags & kRawPass) != 0) == rawPass &&
-            selected(field.layoutId, field.subframe, field.page)) {
-            const PlannedLine line = planLine(field);
-            out.commit(print(out.reserve(line.room()), line));
+
+    // Lines are written straight into room taken from `out` a few kilobytes at a time.
+    char* p = nullptr;
+    char* roomEnd = nullptr;
+    for (const PlannedRun& run : plan_->runs) {
+        if (run.rawPass != rawPass || !selected(run.layoutId, run.subframe, run.page)) {
+            continue;
         }
+        for (const PlannedLine& line : plan_->lines.subspan(run.first, run.count)) {
+            const std::size_t room = line.room();
+            if (static_cast<std::size_t>(roomEnd - p) < room) {
+                if (p != nullptr) {
+                    out.commit(p);
+                }
+                const std::size_t chunk = std::max(room, kRoomChunk);
+                p = out.reserve(chunk);
+                roomEnd = p + chunk;
+            }
+            if (line.group != group) {
+                p = out.putLineEnd(p);
+                group = line.group;
+            }
+            p = writeLine(p, line, bits, out);
+        }
+    }
+    if (p != nullptr) {
+        out.commit(p);
     }
 }
 
