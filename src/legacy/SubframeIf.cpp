@@ -54,11 +54,15 @@ std::uint64_t loadBigEndian64(const std::uint8_t* p) noexcept {
 // The entry's raw value: its segments joined most significant first, of which a
 // 32-bit accumulator keeps the last 32 bits.
 std::uint32_t readValue(const PlannedLine& line, const std::uint8_t* bits) noexcept {
+    const auto read = [bits](const PlannedSegment& segment) {
+        return (loadBigEndian64(bits + segment.byte) << segment.shift) >> (64 - segment.length);
+    };
+    if (line.segmentCount == 1) {  // most fields
+        return static_cast<std::uint32_t>(read(line.segments[0]));
+    }
     std::uint64_t value = 0;
     for (std::uint8_t s = 0; s < line.segmentCount; ++s) {
-        const PlannedSegment& segment = line.segments[s];
-        const std::uint64_t window = loadBigEndian64(bits + segment.byte) << segment.shift;
-        value = (value << segment.length) | (window >> (64 - segment.length));
+        value = (value << line.segments[s].length) | read(line.segments[s]);
     }
     return static_cast<std::uint32_t>(value);
 }

@@ -32,18 +32,38 @@ constexpr int floorLog10Pow2(int b) noexcept {
     return (b * 78913) >> 18;
 }
 
-// The six significant digits of m * 2^e (m < 2^53) scaled by 10^k, truncated, and
-// whether the part cut off is below, at or above one half.
-struct ScaledDigits {
-    std::uint64_t digits;
-    int comparedToHalf;  // -1, 0, +1
+// What truncating a number to an integer cut off, against one half.
+enum class CutOff { Zero, BelowHalf, Half, AboveHalf };
+
+struct Truncated {
+    std::uint64_t value;
+    CutOff cut;
 };
-ScaledDigits scale(std::uint64_t m, int e, int k) noexcept {
+
+// floor(m * 2^e * 10^k) for m < 2^53 and 1 <= -(e + k) <= 127, exactly.
+Truncated scale(std::uint64_t m, int e, int k) noexcept {
     const Uint128 product = Uint128{m} * kPow5[static_cast<std::size_t>(k)];
-    const int shift = -(e + k);  // 1 ... 127, checked by the caller
-    const Uint128 cut = product & ((Uint128{1} << shift) - 1);
-    const Uint128 half = Uint128{1} << (shift - 1);
-    return {static_cast<std::uint64_t>(product >> shift), cut < half ? -1 : cut == half ? 0 : 1};
+    const int shift = -(e + k);
+    const Uint128 rest = product << (128 - shift);  // the bits cut off, at the top
+    constexpr Uint128 kHalf = Uint128{1} << 127;
+    return {static_cast<std::uint64_t>(product >> shift), rest == 0       ? CutOff::Zero
+                                                          : rest < kHalf  ? CutOff::BelowHalf
+                                                          : rest == kHalf ? CutOff::Half
+                                                                          : CutOff::AboveHalf};
+}
+
+// One decimal digit fewer: the digit dropped joins what was cut off.
+Truncated dropDigit(Truncated t) noexcept {
+    const std::uint64_t digit = t.value % 10;
+    CutOff cut = CutOff::BelowHalf;
+    if (digit > 5 || (digit == 5 && t.cut != CutOff::Zero)) {
+        cut = CutOff::AboveHalf;
+    } else if (digit == 5) {
+        cut = CutOff::Half;
+    } else if (digit == 0 && t.cut == CutOff::Zero) {
+        cut = CutOff::Zero;
+    }
+    return {t.value / 10, cut};
 }
 
 // The six-digit significand `digits` (100000 ... 999999) of a value whose first
@@ -117,22 +137,18 @@ char* writeG(char* p, double v) noexcept {
 
     // |v| * 10^k lies in [1e5, 1e7); if it reaches 1e6 the exponent is one more.
     int exponent = floorLog10Pow2(e + 52);
-    int k = 5 - exponent;
-    // Outside about 1e-22 ... 1e6, or a shift that 128 bits cannot take (the second
-    // try shifts one more).
-    if (k < 0 || k > kMaxPow5 || e + k >= 0 || e + k < -126) {
+    const int k = 5 - exponent;
+    // Outside about 1e-22 ... 1e7, or a shift that 128 bits cannot take.
+    if (k < 0 || k > kMaxPow5 || e + k >= 0 || e + k < -127) {
         return writeGByLibrary(p, v);
     }
-    ScaledDigits scaled = scale(m, e, k);
-    if (scaled.digits >= 1000000) {
-        if (--k < 0) {
-            return writeGByLibrary(p, v);
-        }
+    Truncated scaled = scale(m, e, k);
+    if (scaled.value >= 1000000) {
+        scaled = dropDigit(scaled);
         ++exponent;
-        scaled = scale(m, e, k);
     }
-    std::uint64_t digits = scaled.digits;
-    if (scaled.comparedToHalf > 0 || (scaled.comparedToHalf == 0 && (digits & 1) != 0)) {
+    std::uint64_t digits = scaled.value;
+    if (scaled.cut == CutOff::AboveHalf || (scaled.cut == CutOff::Half && (digits & 1) != 0)) {
         if (++digits == 1000000) {
             digits = 100000;
             ++exponent;
