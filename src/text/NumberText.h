@@ -107,7 +107,7 @@ inline char* writeHex(char* p, std::uint64_t v, int minDigits) noexcept {
 // the shorter of fixed and exponent form, trailing zeros dropped. Values from about
 // 1e-22 to below 1e7 are converted exactly with integer arithmetic; the rest (and
 // compilers without 128-bit integers) go to std::to_chars in general form with
-// precision 6, which is specified to print the same.
+// precision 6, which the C++ standard defines to print the same text.
 char* writeG(char* p, double v) noexcept;
 
 }  // namespace ZeltNavMsg::Text
