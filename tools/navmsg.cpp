@@ -8,6 +8,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <array>
 #include <charconv>
 #include <cstdint>
 #include <cstdio>
@@ -34,29 +35,27 @@ struct UsageError {
     std::string reason;
 };
 
-// Buffered standard output. The library ends lines with "\r\n"; unless asked to keep
-// them, they become this platform's "\n". Nothing is flushed per message.
+// Standard output, collected in a buffer of our own and written in large blocks: no
+// flush and no stdio call per message or line. The library ends lines with "\r\n";
+// unless asked to keep them, they become this platform's "\n".
 class Output {
   public:
-    explicit Output(bool keepCrlf) : keepCrlf_(keepCrlf) {
-        std::setvbuf(stdout, nullptr, _IOFBF, 1 << 16);
-    }
+    explicit Output(bool keepCrlf) : keepCrlf_(keepCrlf) { buffer_.reserve(kBlock + kBlock / 4); }
     Output(const Output&) = delete;
     Output& operator=(const Output&) = delete;
-    ~Output() { std::fflush(stdout); }
+    ~Output() { flush(); }
 
     void write(std::string_view text) {
         if (keepCrlf_) {
             put(text);
             return;
         }
-        std::size_t start = 0;
         for (std::size_t cr = text.find("\r\n"); cr != std::string_view::npos;
-             cr = text.find("\r\n", start)) {
-            put(text.substr(start, cr - start));
-            start = cr + 1;  // keep the "\n"
+             cr = text.find("\r\n")) {
+            put(text.substr(0, cr));
+            text.remove_prefix(cr + 1);  // keep the "\n"
         }
-        put(text.substr(start));
+        put(text);
     }
 
     // A decoded listing, ended by a line end whatever road produced it.
@@ -69,14 +68,34 @@ class Output {
 
     void lineEnd() { put(keepCrlf_ ? "\r\n" : "\n"); }
 
+    void put(std::string_view s) {
+        buffer_.append(s);
+        if (buffer_.size() >= kBlock) {
+            writeOut();
+        }
+    }
+
+    // Everything written so far, out to the terminal or file.
+    void flush() {
+        writeOut();
+        std::fflush(stdout);
+    }
+
   private:
-    static void put(std::string_view s) { std::fwrite(s.data(), 1, s.size(), stdout); }
+    static constexpr std::size_t kBlock = std::size_t{1} << 16;
+
+    void writeOut() {
+        std::fwrite(buffer_.data(), 1, buffer_.size(), stdout);
+        buffer_.clear();
+    }
 
     bool keepCrlf_;
+    std::string buffer_;
 };
 
-void reportFailure(std::string_view where, const std::exception& e) {
-    std::fflush(stdout);  // keep stdout and stderr in order when both go to a terminal
+// Keeps standard output and standard error in order when both go to a terminal.
+void reportFailure(Output& out, std::string_view where, const std::exception& e) {
+    out.flush();
     std::fprintf(stderr, "navmsg: %.*s%s\n", static_cast<int>(where.size()), where.data(),
                  e.what());
 }
@@ -127,7 +146,7 @@ int runDecode(const DecodeOptions& options) {
             first = false;
             out.writeListing(text);
         } catch (const std::exception& e) {
-            reportFailure("", e);
+            reportFailure(out, "", e);
             failed = true;
         }
     };
@@ -147,16 +166,33 @@ int runDecode(const DecodeOptions& options) {
 
 // --- batch ----------------------------------------------------------------
 
-// Splits a line into white-space separated words.
-std::vector<std::string_view> words(std::string_view line) {
-    std::vector<std::string_view> result;
+// The white-space separated words of a batch line: the first kMaxWords of them and
+// how many there are (counted up to kMaxWords + 1, enough to tell "too many").
+struct Words {
+    static constexpr std::size_t kMaxWords = 5;
+    std::array<std::string_view, kMaxWords> word;
+    std::size_t count = 0;
+};
+
+Words splitWords(std::string_view line) {
+    Words w;
     constexpr std::string_view kBlanks = " \t\r\v\f";
-    for (std::size_t start = line.find_first_not_of(kBlanks); start != std::string_view::npos;) {
+    for (std::size_t start = line.find_first_not_of(kBlanks);
+         start != std::string_view::npos && w.count <= Words::kMaxWords;) {
         const std::size_t end = line.find_first_of(kBlanks, start);
-        result.push_back(line.substr(start, end == std::string_view::npos ? end : end - start));
+        if (w.count < Words::kMaxWords) {
+            w.word[w.count] = line.substr(start, end == std::string_view::npos ? end : end - start);
+        }
+        ++w.count;
         start = end == std::string_view::npos ? end : line.find_first_not_of(kBlanks, end);
     }
-    return result;
+    return w;
+}
+
+void appendNumber(Output& out, long number) {
+    char digits[24];
+    const auto result = std::to_chars(digits, digits + sizeof digits, number);
+    out.put(std::string_view(digits, static_cast<std::size_t>(result.ptr - digits)));
 }
 
 int runBatch(const std::string& path, bool crlf) {
@@ -173,30 +209,35 @@ int runBatch(const std::string& path, bool crlf) {
     bool failed = false;
     std::string line;
     for (long lineNumber = 1; std::getline(in, line); ++lineNumber) {
-        const std::vector<std::string_view> w = words(line);
-        if (w.empty() || w.front().starts_with('#')) {
+        const Words w = splitWords(line);
+        if (w.count == 0 || w.word[0].starts_with('#')) {
             continue;
         }
-        const std::string where = "line " + std::to_string(lineNumber) + ": ";
         try {
-            if (w.size() != 5) {
+            if (w.count != Words::kMaxWords) {
                 throw std::invalid_argument("expected SAT FORMAT SUBFRAME PAGE HEX");
             }
-            const std::optional<std::int32_t> subframe = parseInt32(w[2]);
-            const std::optional<std::int32_t> page = parseInt32(w[3]);
+            const std::optional<std::int32_t> subframe = parseInt32(w.word[2]);
+            const std::optional<std::int32_t> page = parseInt32(w.word[3]);
             if (!subframe || !page) {
                 throw std::invalid_argument("SUBFRAME and PAGE must be 32-bit integers");
             }
-            const MessageFormat format = NavMessageDecoder::GetMessageFormatFromString(w[0], w[1]);
-            const std::string text = NavMessageDecoder::Decode(format, *subframe, *page, w[4]);
-            out.write("# line " + std::to_string(lineNumber) + ": " + std::string(w[0]) + " " +
-                      std::string(w[1]) + " subframe " + std::string(w[2]) + " page " +
-                      std::string(w[3]));
+            const MessageFormat format =
+                NavMessageDecoder::GetMessageFormatFromString(w.word[0], w.word[1]);
+            const std::string text = NavMessageDecoder::Decode(format, *subframe, *page, w.word[4]);
+            out.put("# line ");
+            appendNumber(out, lineNumber);
+            for (const std::string_view piece :
+                 {std::string_view(": "), w.word[0], std::string_view(" "), w.word[1],
+                  std::string_view(" subframe "), w.word[2], std::string_view(" page "),
+                  w.word[3]}) {
+                out.put(piece);
+            }
             out.lineEnd();
             out.writeListing(text);
             out.lineEnd();
         } catch (const std::exception& e) {
-            reportFailure(where, e);
+            reportFailure(out, "line " + std::to_string(lineNumber) + ": ", e);
             failed = true;
         }
     }

@@ -1,5 +1,7 @@
 #include "api/HexInput.h"
 
+#include <bit>
+#include <cstring>
 #include <limits>
 #include <stdexcept>
 #include <string>
@@ -53,6 +55,19 @@ std::size_t characterLength(std::string_view s, std::size_t i) noexcept {
     return length;
 }
 
+// Without an early exit, so that the compiler checks many characters at a time.
+bool allHexDigits(std::string_view s) noexcept {
+    // Byte-wide throughout, so that each vector step takes as many characters as fit.
+    std::uint8_t bad = 0;
+    for (const char ch : s) {
+        const auto c = static_cast<std::uint8_t>(ch);
+        const auto digitOffset = static_cast<std::uint8_t>(c - '0');
+        const auto letterOffset = static_cast<std::uint8_t>((c | 0x20U) - 'a');
+        bad |= static_cast<std::uint8_t>((digitOffset >= 10) & (letterOffset >= 6));
+    }
+    return bad == 0;
+}
+
 }  // namespace
 
 std::string_view trimAsciiWhiteSpace(std::string_view text) noexcept {
@@ -69,6 +84,9 @@ std::string_view trimAsciiWhiteSpace(std::string_view text) noexcept {
 
 std::string_view validateHexDigits(std::string_view hexString) {
     const std::string_view digits = trimAsciiWhiteSpace(hexString);
+    if (allHexDigits(digits)) {
+        return digits;
+    }
     for (std::size_t i = 0; i < digits.size(); ++i) {
         if (kHexDigitValue[static_cast<unsigned char>(digits[i])] < 0) {
             std::string message = "Can't parse symbol as hex digit: ";
@@ -82,6 +100,19 @@ std::string_view validateHexDigits(std::string_view hexString) {
 void hexDigitsToBytes(std::string_view digits, std::uint8_t* dst, std::size_t dstSize) noexcept {
     std::size_t count = digits.size() < 2 * dstSize ? digits.size() : 2 * dstSize;
     const auto* p = reinterpret_cast<const unsigned char*>(digits.data());
+    if constexpr (std::endian::native == std::endian::little) {
+        // Eight digits at a time, character i in byte i: a digit's value is its low
+        // nibble, plus 9 for the letters (bit 6 set), then pairs join into bytes.
+        for (; count >= 8; count -= 8, p += 8, dst += 4) {
+            std::uint64_t v = 0;
+            std::memcpy(&v, p, 8);
+            v = (v & 0x0F0F0F0F0F0F0F0FU) + 9 * ((v >> 6) & 0x0101010101010101U);
+            v = ((v & 0x000F000F000F000FU) << 4) | ((v >> 8) & 0x000F000F000F000FU);
+            v = (v | (v >> 8)) & 0x0000FFFF0000FFFFU;
+            v = (v | (v >> 16)) & 0xFFFFFFFFU;
+            std::memcpy(dst, &v, 4);
+        }
+    }
     for (; count >= 2; count -= 2, p += 2) {
         *dst++ = static_cast<std::uint8_t>((kHexDigitValue[p[0]] << 4) | kHexDigitValue[p[1]]);
     }

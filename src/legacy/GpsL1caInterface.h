@@ -12,7 +12,8 @@ namespace ZeltNavMsg::Legacy {
 class GPS_L1CA_InterfaceType final : public SubframeIf {
   public:
     constexpr GPS_L1CA_InterfaceType() noexcept
-        : SubframeIf(kGpsL1caFields.data(), static_cast<std::int32_t>(kGpsL1caFields.size())) {}
+        : SubframeIf(kGpsL1caFields.data(), static_cast<std::int32_t>(kGpsL1caFields.size()),
+                     &kGpsL1caListing) {}
 
     [[nodiscard]] std::int32_t GetLayoutId(const subframe_t& sf) const override;
     [[nodiscard]] const SubframeCoder& GetCoder() const override { return coder_; }

@@ -12,7 +12,8 @@ namespace ZeltNavMsg::Legacy {
 class QZSS_L1CA_InterfaceType final : public SubframeIf {
   public:
     constexpr QZSS_L1CA_InterfaceType() noexcept
-        : SubframeIf(kQzssL1caFields.data(), static_cast<std::int32_t>(kQzssL1caFields.size())) {}
+        : SubframeIf(kQzssL1caFields.data(), static_cast<std::int32_t>(kQzssL1caFields.size()),
+                     &kQzssL1caListing) {}
 
     [[nodiscard]] std::int32_t GetLayoutId(const subframe_t& sf) const override;
     [[nodiscard]] const SubframeCoder& GetCoder() const override { return coder_; }

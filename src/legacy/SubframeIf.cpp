@@ -1,6 +1,7 @@
 #include "legacy/SubframeIf.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 
 #include "text/NumberText.h"
@@ -8,10 +9,6 @@
 namespace ZeltNavMsg::Legacy {
 
 namespace {
-
-constexpr std::size_t kNameColumns = 20;
-// Every piece of a line is formatted into a 64-byte buffer; a longer one is cut.
-constexpr std::size_t kMaxPiece = 63;
 
 std::uint32_t readSegment(const std::uint8_t* data, std::int32_t first, std::int32_t length) {
     if (length <= 0 || first < 1) {
@@ -32,30 +29,111 @@ std::uint32_t readSegment(const std::uint8_t* data, std::int32_t first, std::int
     return static_cast<std::uint32_t>(bits & ((std::uint64_t{1} << length) - 1));
 }
 
-// The name right-aligned in 20 columns and a colon ("%20s:").
-void appendName(Text::TextBuffer& out, const char* name) {
-    const std::size_t length = std::strlen(name);
-    const std::size_t pad = length < kNameColumns ? kNameColumns - length : 0;
-    std::size_t piece = std::min(pad + length + 1, kMaxPiece);
-    char* p = out.reserve(piece);
-    const std::size_t spaces = std::min(pad, piece);
-    std::memset(p, ' ', spaces);
-    p += spaces;
-    piece -= spaces;
-    const std::size_t copied = std::min(length, piece);
-    std::memcpy(p, name, copied);
-    p += copied;
-    if (piece > copied) {
-        *p++ = ':';
-    }
-    out.commit(p);
-}
-
 std::int32_t signExtend(std::uint32_t value, std::int32_t width) {
     if (width > 0 && width < 32 && ((value >> (width - 1)) & 1U)) {
         value |= ~((1U << width) - 1U);
     }
     return static_cast<std::int32_t>(value);
+}
+
+std::uint64_t loadBigEndian64(const std::uint8_t* p) noexcept {
+#if defined(__GNUC__) || defined(__clang__)
+    if constexpr (std::endian::native == std::endian::little) {
+        std::uint64_t v = 0;
+        std::memcpy(&v, p, 8);
+        return __builtin_bswap64(v);
+    }
+#endif
+    std::uint64_t v = 0;
+    for (int i = 0; i < 8; ++i) {
+        v = (v << 8) | p[i];
+    }
+    return v;
+}
+
+// The entry's raw value: its segments joined most significant first, of which a
+// 32-bit accumulator keeps the last 32 bits.
+std::uint32_t readValue(const PlannedLine& line, const std::uint8_t* bits) noexcept {
+    const auto read = [bits](const PlannedSegment& segment) {
+        return (loadBigEndian64(bits + segment.byte) << segment.shift) >> (64 - segment.length);
+    };
+    if (line.segmentCount == 1) {  // most fields
+        return static_cast<std::uint32_t>(read(line.segments[0]));
+    }
+    std::uint64_t value = 0;
+    for (std::uint8_t s = 0; s < line.segmentCount; ++s) {
+        value = (value << line.segments[s].length) | read(line.segments[s]);
+    }
+    return static_cast<std::uint32_t>(value);
+}
+
+// Output room is taken this much at a time: small enough that a listing stays in the
+// TextBuffer's inline storage, large enough for a pass or two.
+constexpr std::size_t kRoomChunk = 2048;
+
+// Writes the line at `p`, where line.room() characters may be stored, and returns
+// its end. `out` gives the line end.
+inline char* writeLine(char* p, const PlannedLine& line, const std::uint8_t* bits,
+                       const Text::TextBuffer& out) noexcept {
+    std::memcpy(p, line.label, 32);
+    if (line.labelLength > 32) {
+        std::memcpy(p + 32, line.label + 32, 32);
+    }
+    p += line.labelLength;
+
+    const std::uint32_t value = readValue(line, bits);
+    if (line.hexDigits != 0) {
+        char* const piece = p;
+        std::memcpy(p, " 0x", 3);
+        p = Text::writeHex(p + 3, value, line.hexDigits);
+        if (static_cast<std::size_t>(p - piece) > PlannedLine::kMaxPiece) {
+            p = piece + PlannedLine::kMaxPiece;
+        }
+    }
+    switch (line.value) {
+        case PlannedValue::None:
+            break;
+        case PlannedValue::Unsigned:
+            *p++ = ' ';
+            p = Text::writeUnsigned(p, value);
+            break;
+        case PlannedValue::Signed:
+            *p++ = ' ';
+            p = Text::writeSigned(p, signExtend(value, line.width));
+            break;
+        case PlannedValue::ScaledUnsigned:
+            *p++ = ' ';
+            p = Text::writeG(p, static_cast<double>(value) * line.scale);
+            break;
+        case PlannedValue::ScaledSigned:
+            *p++ = ' ';
+            p = Text::writeG(p, static_cast<double>(signExtend(value, line.width)) * line.scale);
+            break;
+    }
+    if (line.showCharacter) {
+        // " '%c'" appended as a C string: a NUL character ends the piece, and a line
+        // feed is a line end like any other.
+        const auto c = static_cast<char>(value & 0xFFU);
+        *p++ = ' ';
+        *p++ = '\'';
+        if (c == '\n') {
+            p = out.putLineEnd(p);
+            *p++ = '\'';
+        } else if (c != '\0') {
+            *p++ = c;
+            *p++ = '\'';
+        }
+    }
+    if (line.unitsLength != 0) {
+        if (line.longUnits == nullptr) {
+            std::memcpy(p, line.units, PlannedLine::kShortUnits);
+        } else {
+            *p = ' ';
+            std::memcpy(p + 1, line.longUnits, line.unitsLength - 1U);
+        }
+        p += line.unitsLength;
+    }
+    return out.putLineEnd(p);
 }
 
 }  // namespace
@@ -78,89 +156,59 @@ RawField extractField(const SubframeFieldInfo& field, const std::uint8_t* data) 
     return {value, width};
 }
 
-void SubframeIf::DescribeFields(Text::TextBuffer& out, const subframe_t& sf, bool rawPass) const {
+void SubframeIf::DescribeFields(Text::TextBuffer& out, const subframe_t& sf,
+                                const std::uint8_t* bits, std::int32_t layoutId,
+                                bool rawPass) const {
+    // A subframe without pages is matched by its number alone; a paged entry needs
+    // the layout of the record's page.
+    const auto selected = [&sf, layoutId](std::int32_t entryLayout, std::int32_t subframe,
+                                          std::int32_t page) {
+        return entryLayout == 0 || (subframe == sf.subframe && page == 0) ||
+               entryLayout == layoutId;
+    };
     std::int32_t group = 0;
-    std::int32_t recordLayout = -1;
-    bool layoutKnown = false;
-    for (const SubframeFieldInfo& field : fields()) {
-        if (field.name == nullptr) {
-            continue;
-        }
-        if (((field.flags & kRawPass) != 0) != rawPass ||
-            (field.flags & (kNeverPrinted | kReserved)) != 0) {
-            continue;
-        }
-        // A subframe without pages is matched by its number alone; a paged entry
-        // needs the layout of the record's page.
-        if (field.layoutId != 0 && !(field.subframe == sf.subframe && field.page == 0)) {
-            if (!layoutKnown) {
-                recordLayout = GetLayoutId(sf);
-                layoutKnown = true;
-            }
-            if (recordLayout != field.layoutId) {
-                continue;
+    if (plan_ == nullptr) {
+        for (const SubframeFieldInfo& field : fields()) {
+            if (isPrinted(field) && ((field.flags & kRawPass) != 0) == rawPass &&
+                selected(field.layoutId, field.subframe, field.page)) {
+                const PlannedLine line = planLine(field);
+                char* p = out.reserve(line.room());
+                if (line.group != group) {
+                    p = out.putLineEnd(p);
+                    group = line.group;
+                }
+                out.commit(writeLine(p, line, bits, out));
             }
         }
-        if (field.group != group) {
-            out.newline();
-            group = field.group;
-        }
+        return;
+    }
 
-        const RawField raw = extractField(field, sf.data);
-        appendName(out, field.name);
-
-        // Room for " 0x" and the hex digits, then a blank and a number.
-        char* p = out.reserve(static_cast<std::size_t>(std::max(raw.width, 0)) / 4 + 8 + 32);
-        if ((field.flags & kNoHex) == 0 && raw.width > 1) {
-            *p++ = ' ';
-            *p++ = '0';
-            *p++ = 'x';
-            p = Text::writeHex(p, raw.value, (raw.width + 3) / 4);
+    // Lines are written straight into room taken from `out` a few kilobytes at a time.
+    char* p = nullptr;
+    char* roomEnd = nullptr;
+    for (const PlannedRun& run : plan_->runs) {
+        if (run.rawPass != rawPass || !selected(run.layoutId, run.subframe, run.page)) {
+            continue;
         }
-        const bool printInteger = (field.flags & kValueOnlyIfOneBit) == 0 || raw.width == 1;
-        switch (field.valueType) {
-            case kUnsigned:
-                if (printInteger) {
-                    *p++ = ' ';
-                    p = Text::writeUnsigned(p, raw.value);
+        for (const PlannedLine& line : plan_->lines.subspan(run.first, run.count)) {
+            const std::size_t room = line.room();
+            if (static_cast<std::size_t>(roomEnd - p) < room) {
+                if (p != nullptr) {
+                    out.commit(p);
                 }
-                break;
-            case kSigned:
-                if (printInteger) {
-                    *p++ = ' ';
-                    p = Text::writeSigned(p, signExtend(raw.value, raw.width));
-                }
-                break;
-            case kUnsignedScaled:
-                *p++ = ' ';
-                p = Text::writeG(p, static_cast<double>(raw.value) * field.scale);
-                break;
-            case kSignedScaled:
-                *p++ = ' ';
-                p = Text::writeG(
-                    p, static_cast<double>(signExtend(raw.value, raw.width)) * field.scale);
-                break;
-            default:
-                break;
+                const std::size_t chunk = std::max(room, kRoomChunk);
+                p = out.reserve(chunk);
+                roomEnd = p + chunk;
+            }
+            if (line.group != group) {
+                p = out.putLineEnd(p);
+                group = line.group;
+            }
+            p = writeLine(p, line, bits, out);
         }
+    }
+    if (p != nullptr) {
         out.commit(p);
-        if (field.valueType == kUnsigned && (field.flags & kShowCharacter) != 0 && raw.width <= 8) {
-            // " '%c'" appended as a C string: a NUL character ends the piece.
-            const auto c = static_cast<char>(raw.value & 0xFFU);
-            out.append(" '");
-            if (c == '\n') {
-                out.newline();  // the line-end conversion turns this one too
-                out.append('\'');
-            } else if (c != '\0') {
-                out.append(c);
-                out.append('\'');
-            }
-        }
-        if (field.units != nullptr) {
-            out.append(' ');
-            out.append(field.units);
-        }
-        out.newline();
     }
 }
 
@@ -177,17 +225,27 @@ void SubframeIf::describe(Text::TextBuffer& out, const subframe_t& sf, DecodingM
     out.commit(p);
     out.newline();
 
+    const std::int32_t layoutId = GetLayoutId(sf);
+    std::uint8_t bits[kPaddedDataBytes] = {};
+    std::memcpy(bits, sf.data, sizeof sf.data);
     const std::size_t rawStart = out.size();
-    DescribeFields(out, sf, true);
-    const std::size_t rawEnd = out.size();
+    DescribeFields(out, sf, bits, layoutId, true);
 
+    // An empty line parts the passes when both print something: put it in now and
+    // take it back if the decoded pass prints nothing.
+    const std::size_t rawEnd = out.size();
+    if (rawEnd > rawStart) {
+        out.newline();
+    }
+    const std::size_t decodedStart = out.size();
     subframe_t decoded = sf;
     if (mode == DecodingMode::DecodeWords) {
         GetCoder().Decode(decoded);
     }
-    DescribeFields(out, decoded, false);
-    if (rawEnd > rawStart && out.size() > rawEnd) {
-        out.insert(rawEnd, out.lineEnd());
+    std::memcpy(bits, decoded.data, sizeof decoded.data);
+    DescribeFields(out, decoded, bits, layoutId, false);
+    if (out.size() == decodedStart) {
+        out.truncate(rawEnd);
     }
 }
 

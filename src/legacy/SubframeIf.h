@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 
+#include "legacy/ListingPlan.h"
 #include "legacy/Subframe.h"
 #include "legacy/SubframeCoder.h"
 #include "legacy/SubframeFieldInfo.h"
@@ -24,8 +25,11 @@ class SubframeIf {
         DecodeWords = 1,  // run the coder's Decode on a copy first
     };
 
-    constexpr SubframeIf(const SubframeFieldInfo* fields, std::int32_t fieldCount) noexcept
-        : fields_(fields), fieldCount_(fieldCount) {}
+    // `plan`, when given, must be planListing() of the same table; without one each
+    // printed entry is planned as it is met, which gives the same text more slowly.
+    constexpr SubframeIf(const SubframeFieldInfo* fields, std::int32_t fieldCount,
+                         const ListingPlan* plan = nullptr) noexcept
+        : fields_(fields), fieldCount_(fieldCount), plan_(plan) {}
     SubframeIf(const SubframeIf&) = delete;
     SubframeIf& operator=(const SubframeIf&) = delete;
     constexpr virtual ~SubframeIf() = default;
@@ -47,11 +51,14 @@ class SubframeIf {
 
   private:
     // Appends the entries of one pass: raw-pass entries from the record as received,
-    // or the others from the (decoded) record.
-    void DescribeFields(Text::TextBuffer& out, const subframe_t& sf, bool rawPass) const;
+    // or the others from the (decoded) record. `bits` is the record's data padded
+    // with zeros to kPaddedDataBytes; `layoutId` is GetLayoutId of the record.
+    void DescribeFields(Text::TextBuffer& out, const subframe_t& sf, const std::uint8_t* bits,
+                        std::int32_t layoutId, bool rawPass) const;
 
     const SubframeFieldInfo* fields_;
     std::int32_t fieldCount_;
+    const ListingPlan* plan_;
 };
 
 // Raw value and width of an entry in `data` (bits counted from 1). Segments are

@@ -21,7 +21,11 @@ class TextBuffer {
 
     // inline_ stays uninitialised: nothing is read before it is written.
     // cppcheck-suppress uninitMemberVar
-    explicit TextBuffer(std::string_view lineEnd = "\n") noexcept : lineEnd_(lineEnd) {}
+    // `lineEnd` is one or two characters.
+    explicit TextBuffer(std::string_view lineEnd = "\n") noexcept
+        : lineEnd_(lineEnd),
+          lineEndChars_{lineEnd.empty() ? '\n' : lineEnd[0],
+                        lineEnd.size() > 1 ? lineEnd[1] : '\0'} {}
     TextBuffer(const TextBuffer&) = delete;
     TextBuffer& operator=(const TextBuffer&) = delete;
     ~TextBuffer() = default;
@@ -51,6 +55,12 @@ class TextBuffer {
         size_ += count;
     }
     void newline() { append(lineEnd_); }
+    // Writes the line end at `p`, inside room taken with reserve() (two characters
+    // are always stored), and returns its end.
+    char* putLineEnd(char* p) const noexcept {
+        std::memcpy(p, lineEndChars_, 2);
+        return p + lineEnd_.size();
+    }
 
     [[nodiscard]] std::string_view lineEnd() const noexcept { return lineEnd_; }
     [[nodiscard]] std::size_t size() const noexcept { return size_; }
@@ -86,6 +96,7 @@ class TextBuffer {
     }
 
     std::string_view lineEnd_;
+    char lineEndChars_[2];
     std::size_t size_ = 0;
     std::size_t capacity_ = kInlineCapacity;
     char* data_ = inline_;

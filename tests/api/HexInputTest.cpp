@@ -81,6 +81,42 @@ TEST(HexInput, NulByteIsABadCharacter) {
     EXPECT_THROW((void)HexStringToBytes(hex, sizeBits), DecodingError);
 }
 
+// Digits are checked and converted many at a time: every byte value, in both cases,
+// at every alignment, and a bad character (the neighbours of the digit ranges) at
+// every position of texts long and short.
+TEST(HexInput, EveryByteValueAtEveryAlignment) {
+    for (std::size_t lead = 0; lead < 8; ++lead) {
+        for (const char* digits : {"0123456789ABCDEF", "0123456789abcdef"}) {
+            std::string hex(2 * lead, '7');
+            std::vector<std::uint8_t> expected(lead, 0x77);
+            for (unsigned value = 0; value < 256; ++value) {
+                hex += digits[value >> 4];
+                hex += digits[value & 15];
+                expected.push_back(static_cast<std::uint8_t>(value));
+            }
+            std::int32_t sizeBits = 0;
+            EXPECT_EQ(HexStringToBytes(hex, sizeBits), expected) << lead << " " << digits;
+        }
+    }
+}
+
+TEST(HexInput, FindsABadCharacterAnywhere) {
+    for (const char bad : {'/', ':', '@', 'G', '`', 'g', ' ', '\x80', '\xFF', '\x10', '\xB0'}) {
+        for (std::size_t length = 1; length <= 80; ++length) {
+            for (std::size_t at = 0; at < length; ++at) {
+                std::string hex(length, 'a');
+                hex[at] = bad;
+                if (bad == ' ' && (at == 0 || at + 1 == length)) {
+                    continue;  // trimmed
+                }
+                std::int32_t sizeBits = 0;
+                EXPECT_THROW((void)HexStringToBytes(hex, sizeBits), DecodingError)
+                    << static_cast<int>(bad) << " at " << at << " of " << length;
+            }
+        }
+    }
+}
+
 TEST(HexInput, PartialConversionKeepsTheRest) {
     std::uint8_t bytes[3] = {0x11, 0x22, 0x33};
     ZeltNavMsg::Detail::hexDigitsToBytes("ABC", bytes, 3);

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 
+#include "legacy/ListingPlan.h"
 #include "legacy/SubframeFieldInfo.h"
 
 namespace ZeltNavMsg::Legacy {
@@ -14,6 +15,10 @@ inline constexpr std::size_t kQzssL1caFieldCount = 205;
 // Constant-initialised: usable from any static initialiser of a host.
 extern const std::array<SubframeFieldInfo, kGpsL1caFieldCount> kGpsL1caFields;
 extern const std::array<SubframeFieldInfo, kQzssL1caFieldCount> kQzssL1caFields;
+
+// Their printing plans (planListing of each table), made at compile time.
+extern const ListingPlan kGpsL1caListing;
+extern const ListingPlan kQzssL1caListing;
 
 }  // namespace ZeltNavMsg::Legacy
 

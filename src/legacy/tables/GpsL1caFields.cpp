@@ -36,10 +36,15 @@ constexpr SubframeFieldInfo kTextFields[] = {
 
 using namespace LNav;
 
-constinit const std::array<SubframeFieldInfo, kGpsL1caFieldCount> kGpsL1caFields =
+constexpr std::array<SubframeFieldInfo, kGpsL1caFieldCount> kGpsL1caFields =
     assemble(place(kCommonFields, kAsDeclared), place(kTextFields, kAsDeclared),
              place(kNmctFields, {8, 4, 13}), place(kIonoUtcFields, {9, 4, 18}),
              place(kConfigHealthFields, {10, 4, 25}), place(kSubframe5IdFields, {11, 5, 0}),
              place(kAlmanacFields, {12, 0, 0}), place(kAlmanacHealthFields, {13, 5, 25}));
+
+namespace {
+constexpr auto kPlanData = planListing(kGpsL1caFields);
+}
+constinit const ListingPlan kGpsL1caListing = kPlanData.plan();
 
 }  // namespace ZeltNavMsg::Legacy

@@ -1,0 +1,183 @@
+// Speed of Decode on real broadcasts, per format, against two baselines: parsing the
+// hex text alone (the floor) and the plain snprintf listing of the same lines (what
+// a straightforward implementation costs). Each message format is one row of
+// kFormats; every benchmark cycles through all real messages of its format, so no
+// single input is learned by the branch predictor.
+//
+//   build/bench/bench/zeltnavmsg_bench --benchmark_repetitions=5
+//       --benchmark_report_aggregates_only=true
+//
+// Time is per message; items_per_second is messages per second; bytes_per_second is
+// output text per second; allocs/msg counts global operator new calls per message.
+
+#include <benchmark/benchmark.h>
+
+#include <cstdint>
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "AllocationCounter.h"
+#include "api/HexInput.h"
+#include "legacy/GpsL1caInterface.h"
+#include "legacy/QzssL1caInterface.h"
+#include "support/NaiveLegacyListing.h"
+#include "zeltnavmsg/NavMessageDecoder.h"
+
+namespace {
+
+using ZeltNavMsg::MessageFormat;
+using ZeltNavMsg::NavMessageDecoder;
+namespace Legacy = ZeltNavMsg::Legacy;
+
+struct BenchFormat {
+    const char* name;
+    MessageFormat format;
+    const char* dataFile;  // in tests/data/real-data
+    // The signal of a legacy format, for the snprintf baseline; nullptr runs none.
+    const Legacy::SubframeIf* legacySignal;
+};
+
+// The formats measured: one line each.
+const BenchFormat kFormats[] = {
+    {"GpsLNav", MessageFormat::GpsLNav, "gps_lnav.tsv", &Legacy::GPS_L1CA_Interface},
+    {"QzssLNav", MessageFormat::QzssLNav, "qzss_lnav.tsv", &Legacy::QZSS_L1CA_Interface},
+};
+
+struct Message {
+    std::int32_t subframe = 0;
+    std::int32_t page = 0;
+    std::string hex;
+};
+
+// Columns of a data line, TAB-separated: format, satellite, subframe, page, hex, ...
+std::vector<Message> loadMessages(const char* fileName) {
+    const std::string path = std::string(ZELTNAVMSG_REAL_DATA_DIR) + "/" + fileName;
+    std::ifstream file(path);
+    if (!file) {
+        std::fprintf(stderr, "cannot read %s\n", path.c_str());
+        return {};
+    }
+    std::vector<Message> messages;
+    for (std::string line; std::getline(file, line);) {
+        if (line.empty() || line.front() == '#') {
+            continue;
+        }
+        std::istringstream cells(line);
+        std::string format;
+        std::string satellite;
+        std::string subframe;
+        std::string page;
+        Message m;
+        std::getline(cells, format, '\t');
+        std::getline(cells, satellite, '\t');
+        std::getline(cells, subframe, '\t');
+        std::getline(cells, page, '\t');
+        std::getline(cells, m.hex, '\t');
+        m.subframe = std::stoi(subframe);
+        m.page = std::stoi(page);
+        messages.push_back(std::move(m));
+    }
+    return messages;
+}
+
+struct FormatData {
+    const BenchFormat* format;
+    std::vector<Message> messages;
+};
+
+// Runs `listing` once per iteration over the messages in turn and reports
+// messages/s, output bytes/s and heap allocations per message.
+template <typename Listing>
+void cycle(benchmark::State& state, const std::vector<Message>& messages, Listing listing) {
+    std::size_t next = 0;
+    std::uint64_t bytes = 0;
+    const std::uint64_t allocationsBefore = ZeltNavMsg::Bench::allocationCount();
+    for (auto _ : state) {
+        bytes += listing(messages[next]);
+        if (++next == messages.size()) {
+            next = 0;
+        }
+    }
+    const std::uint64_t allocations = ZeltNavMsg::Bench::allocationCount() - allocationsBefore;
+    const auto iterations = static_cast<double>(state.iterations());
+    state.SetItemsProcessed(state.iterations());
+    state.SetBytesProcessed(static_cast<std::int64_t>(bytes));
+    state.counters["allocs/msg"] = static_cast<double>(allocations) / iterations;
+}
+
+void benchDecode(benchmark::State& state, const FormatData* data) {
+    const MessageFormat format = data->format->format;
+    cycle(state, data->messages, [format](const Message& m) {
+        const std::string text = NavMessageDecoder::Decode(format, m.subframe, m.page, m.hex);
+        benchmark::DoNotOptimize(text.data());
+        return text.size();
+    });
+}
+
+void benchHexParsing(benchmark::State& state, const FormatData* data) {
+    cycle(state, data->messages, [](const Message& m) {
+        std::int32_t sizeBits = 0;
+        const std::vector<std::uint8_t> bytes =
+            ZeltNavMsg::Detail::HexStringToBytes(m.hex, sizeBits);
+        benchmark::DoNotOptimize(bytes.data());
+        return std::size_t{0};
+    });
+}
+
+void benchNaiveListing(benchmark::State& state, const FormatData* data) {
+    const Legacy::SubframeIf& signal = *data->format->legacySignal;
+    cycle(state, data->messages, [&signal](const Message& m) {
+        const std::string text =
+            ZeltNavMsg::Testing::naiveLegacyListing(signal, m.subframe, m.page, m.hex);
+        benchmark::DoNotOptimize(text.data());
+        return text.size();
+    });
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+        return 1;
+    }
+
+    std::vector<FormatData> data;
+    data.reserve(std::size(kFormats));
+    for (const BenchFormat& format : kFormats) {
+        data.push_back({&format, loadMessages(format.dataFile)});
+        if (data.back().messages.empty()) {
+            std::fprintf(stderr, "no messages for %s\n", format.name);
+            return 1;
+        }
+    }
+
+    for (const FormatData& d : data) {
+        // The baseline is only a yardstick if it makes the same text.
+        if (d.format->legacySignal != nullptr) {
+            for (const Message& m : d.messages) {
+                if (NavMessageDecoder::Decode(d.format->format, m.subframe, m.page, m.hex) !=
+                    ZeltNavMsg::Testing::naiveLegacyListing(*d.format->legacySignal, m.subframe,
+                                                            m.page, m.hex)) {
+                    std::fprintf(stderr, "%s: listings differ for %s\n", d.format->name,
+                                 m.hex.c_str());
+                    return 1;
+                }
+            }
+        }
+        const std::string name = d.format->name;
+        benchmark::RegisterBenchmark(("Decode/" + name).c_str(), benchDecode, &d);
+        benchmark::RegisterBenchmark(("HexParsing/" + name).c_str(), benchHexParsing, &d);
+        if (d.format->legacySignal != nullptr) {
+            benchmark::RegisterBenchmark(("SnprintfListing/" + name).c_str(), benchNaiveListing,
+                                         &d);
+        }
+    }
+
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

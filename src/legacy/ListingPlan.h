@@ -1,0 +1,244 @@
+#ifndef ZELTNAVMSG_LEGACY_LISTINGPLAN_H
+#define ZELTNAVMSG_LEGACY_LISTINGPLAN_H
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "legacy/Subframe.h"
+#include "legacy/SubframeFieldInfo.h"
+
+// A field table digested for printing. Everything about an entry's line that does
+// not depend on the bits is worked out once, at compile time for the built-in
+// tables: the name already right-aligned, the units with their blank, the hex digit
+// count, which number is printed, and each segment as a byte offset and two shifts.
+// Entries that are never printed are dropped, and the rest are cut into runs of
+// neighbours that share their selection, so a subframe tests each run once.
+
+namespace ZeltNavMsg::Legacy {
+
+// Bits are read from a copy of the record's data followed by zero bytes, so that a
+// 64-bit big-endian load at any segment's byte stays inside it.
+inline constexpr std::size_t kPaddedDataBytes = 48;
+// A segment that lies before bit 1 or after the data reads as zero from here.
+inline constexpr std::uint8_t kZeroBytes = 40;
+
+// Up to 32 bits: (load64(byte) << shift) >> (64 - length).
+struct PlannedSegment {
+    std::uint8_t byte = kZeroBytes;
+    std::uint8_t shift = 0;
+    std::uint8_t length = 0;  // 1 ... 32
+};
+
+// The number printed after the optional hex part.
+enum class PlannedValue : std::uint8_t {
+    None,
+    Unsigned,        // " %lu"
+    Signed,          // " %ld" of the sign-extended value
+    ScaledUnsigned,  // " %g" of value x scale
+    ScaledSigned,    // " %g" of the sign-extended value x scale
+};
+
+struct PlannedLine {
+    // Every piece of a line is formatted into a 64-byte buffer, so "%20s:" keeps at
+    // most 63 characters.
+    static constexpr std::size_t kMaxPiece = 63;
+    // Hex digits are counted up to this many: beyond 60 only zeros survive the cut.
+    static constexpr int kMaxHexDigits = 68;
+    static constexpr std::size_t kShortUnits = 32;
+    // Room a line takes in the output buffer, long units aside: an empty line
+    // before it, the label and hex pieces (each at most 63 characters, copied in
+    // 32-byte blocks), a blank and a number, a quoted character with a line end
+    // inside, 32 bytes of units and the line end (two bytes stored each).
+    static constexpr std::size_t kRoom = 2 + 64 + 3 + kMaxHexDigits + 24 + 6 + kShortUnits + 2;
+
+    char label[64] = {};              // "%20s:" of the name
+    char units[kShortUnits] = {};     // " " and the units, when that fits
+    const char* longUnits = nullptr;  // the units text when " units" does not fit
+    double scale = 0.0;
+    std::int32_t width = 0;  // sum of the eight segment lengths
+    std::int32_t group = 0;
+    std::uint16_t unitsLength = 0;  // of " units"; 0 without units
+    std::uint8_t labelLength = 0;
+    std::uint8_t hexDigits = 0;  // 0: no hex part
+    PlannedValue value = PlannedValue::None;
+    bool showCharacter = false;  // " '%c'" after the number
+    std::uint8_t segmentCount = 0;
+    PlannedSegment segments[SubframeFieldInfo::kMaxSegments] = {};
+
+    // Room for this line, long units included.
+    [[nodiscard]] constexpr std::size_t room() const {
+        return kRoom + (longUnits != nullptr ? unitsLength : 0U);
+    }
+};
+
+// Neighbouring lines printed under the same condition.
+struct PlannedRun {
+    std::int32_t layoutId = 0;
+    std::int32_t subframe = 0;
+    std::int32_t page = 0;
+    std::uint16_t first = 0;
+    std::uint16_t count = 0;
+    bool rawPass = false;
+};
+
+// The plan of one signal's table, as SubframeIf reads it.
+struct ListingPlan {
+    std::span<const PlannedLine> lines;
+    std::span<const PlannedRun> runs;
+};
+
+namespace Planning {
+
+constexpr std::size_t length(const char* text) {
+    std::size_t n = 0;
+    while (text[n] != '\0') {
+        ++n;
+    }
+    return n;
+}
+
+constexpr PlannedSegment segment(std::int64_t first, std::int64_t length) {
+    if (first < 1) {
+        return {kZeroBytes, 0, static_cast<std::uint8_t>(length > 32 ? 32 : length)};
+    }
+    if (length > 32) {  // only the last 32 bits can survive the 32-bit accumulator
+        first += length - 32;
+        length = 32;
+    }
+    const std::int64_t index = first - 1;
+    if (index >= 8 * subframe_t::kDataBytes) {
+        return {kZeroBytes, 0, static_cast<std::uint8_t>(length)};
+    }
+    return {static_cast<std::uint8_t>(index / 8), static_cast<std::uint8_t>(index % 8),
+            static_cast<std::uint8_t>(length)};
+}
+
+}  // namespace Planning
+
+// The printing plan of one table entry. The caller has already decided that the
+// entry is printed at all.
+constexpr PlannedLine planLine(const SubframeFieldInfo& field) {
+    PlannedLine line;
+
+    const std::size_t nameLength = Planning::length(field.name);
+    const std::size_t pad = nameLength < 20 ? 20 - nameLength : 0;
+    std::size_t n = 0;
+    for (; n < pad && n < PlannedLine::kMaxPiece; ++n) {
+        line.label[n] = ' ';
+    }
+    for (std::size_t i = 0; i < nameLength && n < PlannedLine::kMaxPiece; ++i) {
+        line.label[n++] = field.name[i];
+    }
+    if (n < PlannedLine::kMaxPiece) {
+        line.label[n++] = ':';
+    }
+    line.labelLength = static_cast<std::uint8_t>(n);
+
+    if (field.units != nullptr) {
+        const std::size_t unitsLength = Planning::length(field.units);
+        line.unitsLength = static_cast<std::uint16_t>(1 + unitsLength);
+        if (1 + unitsLength <= PlannedLine::kShortUnits) {
+            line.units[0] = ' ';
+            for (std::size_t i = 0; i < unitsLength; ++i) {
+                line.units[1 + i] = field.units[i];
+            }
+        } else {
+            line.longUnits = field.units;
+        }
+    }
+
+    std::int32_t width = 0;
+    for (const std::int32_t segmentLength : field.segmentLength) {
+        width += segmentLength;
+    }
+    line.width = width;
+    line.group = field.group;
+    line.scale = field.scale;
+
+    const std::int32_t count = field.segmentCount < 0 ? 0
+                               : field.segmentCount > SubframeFieldInfo::kMaxSegments
+                                   ? SubframeFieldInfo::kMaxSegments
+                                   : field.segmentCount;
+    for (std::int32_t s = 0; s < count; ++s) {
+        if (field.segmentLength[s] > 0) {
+            line.segments[line.segmentCount++] =
+                Planning::segment(field.segmentStart[s], field.segmentLength[s]);
+        }
+    }
+
+    if ((field.flags & kNoHex) == 0 && width > 1) {
+        const std::int64_t digits = (std::int64_t{width} + 3) / 4;
+        line.hexDigits = static_cast<std::uint8_t>(
+            digits > PlannedLine::kMaxHexDigits ? PlannedLine::kMaxHexDigits : digits);
+    }
+    const bool integerShown = (field.flags & kValueOnlyIfOneBit) == 0 || width == 1;
+    switch (field.valueType) {
+        case kUnsigned:
+            line.value = integerShown ? PlannedValue::Unsigned : PlannedValue::None;
+            line.showCharacter = (field.flags & kShowCharacter) != 0 && width <= 8;
+            break;
+        case kSigned:
+            line.value = integerShown ? PlannedValue::Signed : PlannedValue::None;
+            break;
+        case kUnsignedScaled:
+            line.value = PlannedValue::ScaledUnsigned;
+            break;
+        case kSignedScaled:
+            line.value = PlannedValue::ScaledSigned;
+            break;
+        default:
+            break;
+    }
+    return line;
+}
+
+// Whether an entry ever prints: it has a name and is neither parity nor reserved.
+constexpr bool isPrinted(const SubframeFieldInfo& field) {
+    return field.name != nullptr && (field.flags & (kNeverPrinted | kReserved)) == 0;
+}
+
+// Storage of a table's plan; N is the table's entry count, an upper bound of both.
+template <std::size_t N>
+struct ListingPlanData {
+    std::array<PlannedLine, N> lines{};
+    std::array<PlannedRun, N> runs{};
+    std::size_t lineCount = 0;
+    std::size_t runCount = 0;
+
+    [[nodiscard]] constexpr ListingPlan plan() const {
+        return {std::span<const PlannedLine>(lines.data(), lineCount),
+                std::span<const PlannedRun>(runs.data(), runCount)};
+    }
+};
+
+template <std::size_t N>
+constexpr ListingPlanData<N> planListing(const std::array<SubframeFieldInfo, N>& table) {
+    static_assert(N <= 0xFFFF, "run indices are 16 bits");
+    ListingPlanData<N> data;
+    for (const SubframeFieldInfo& field : table) {
+        if (!isPrinted(field)) {
+            continue;
+        }
+        const bool rawPass = (field.flags & kRawPass) != 0;
+        PlannedRun* run = data.runCount == 0 ? nullptr : &data.runs[data.runCount - 1];
+        if (run == nullptr || run->rawPass != rawPass || run->layoutId != field.layoutId ||
+            run->subframe != field.subframe || run->page != field.page) {
+            run = &data.runs[data.runCount++];
+            *run = {field.layoutId,
+                    field.subframe,
+                    field.page,
+                    static_cast<std::uint16_t>(data.lineCount),
+                    0,
+                    rawPass};
+        }
+        data.lines[data.lineCount++] = planLine(field);
+        ++run->count;
+    }
+    return data;
+}
+
+}  // namespace ZeltNavMsg::Legacy
+
+#endif

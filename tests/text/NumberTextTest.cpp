@@ -1,0 +1,177 @@
+// The number writers against the C library's printf, which defines the text they
+// must produce: "%g" for writeG (correct rounding, ties to even, the choice between
+// fixed and exponent form, trailing zeros) and "%0*llX" for writeHex.
+
+#include <gtest/gtest.h>
+
+#include <cfloat>
+#include <cmath>
+#include <cstdio>
+#include <limits>
+#include <random>
+#include <string>
+
+#include "legacy/GpsL1caInterface.h"
+#include "legacy/QzssL1caInterface.h"
+#include "text/NumberText.h"
+
+namespace {
+
+using ZeltNavMsg::Text::writeG;
+using ZeltNavMsg::Text::writeHex;
+
+std::string viaWriteG(double v) {
+    char text[ZeltNavMsg::Text::kMaxGLength];
+    return {text, writeG(text, v)};
+}
+
+std::string viaPrintf(double v) {
+    char text[64];
+    const int n = std::snprintf(text, sizeof text, "%g", v);
+    return {text, static_cast<std::size_t>(n)};
+}
+
+#define EXPECT_LIKE_PRINTF(v)                                                       \
+    do {                                                                            \
+        const double value_ = (v);                                                  \
+        ASSERT_EQ(viaWriteG(value_), viaPrintf(value_)) << std::hexfloat << value_; \
+    } while (false)
+
+TEST(WriteG, EdgesOfEachForm) {
+    const double cases[] = {
+        0.0,
+        -0.0,
+        1.0,
+        -1.0,
+        0.5,
+        10.0,
+        100000.0,
+        999999.0,
+        1e6,
+        -1e6,
+        1234567.0,
+        // The fixed form runs from 1e-4 up to 999999.5 (which rounds to 1e+06).
+        1e-4,
+        std::nextafter(1e-4, 0.0),
+        9.99999e-5,
+        9.999995e-5,
+        9.9999949999e-5,
+        999999.5,
+        std::nextafter(999999.5, 0.0),
+        std::nextafter(999999.5, 1e7),
+        999999.4999999,
+        99999.95,
+        99999.949999,
+        0.000999999,
+        9.5,
+        99.99995,
+        // Exact ties at the seventh digit round to even.
+        123456.5,
+        123457.5,
+        0.1015625,
+        0.1171875,
+        1.0000005e6,
+        2.5e-5,
+        0.0078125,
+        // Long exponents, the ends of the exact path, and what it leaves to the library.
+        1e-22,
+        1e-21,
+        9.99999e-23,
+        1e-100,
+        1e100,
+        1.5e-300,
+        DBL_MAX,
+        DBL_MIN,
+        -DBL_MIN,
+        DBL_MIN / 4,
+        std::numeric_limits<double>::denorm_min(),
+        std::numeric_limits<double>::infinity(),
+        -std::numeric_limits<double>::infinity(),
+        std::numeric_limits<double>::quiet_NaN(),
+    };
+    for (const double v : cases) {
+        EXPECT_LIKE_PRINTF(v);
+    }
+}
+
+// Random significands at every binary exponent the legacy tables can reach and well
+// beyond, both signs.
+TEST(WriteG, RandomValuesAtEveryExponent) {
+    std::mt19937_64 random(31);
+    for (int exponent = -90; exponent <= 40; ++exponent) {
+        for (int i = 0; i < 1500; ++i) {
+            const double significand =
+                1.0 + static_cast<double>(random() >> 12) / 4503599627370496.0;  // [1, 2)
+            const double v = std::ldexp(significand, exponent);
+            EXPECT_LIKE_PRINTF(v);
+            EXPECT_LIKE_PRINTF(-v);
+        }
+    }
+}
+
+// Values of few binary digits, as integer x power-of-two scales make them: many of
+// them are exact ties at the seventh significant digit.
+TEST(WriteG, ShortDyadicValues) {
+    for (int shift = -45; shift <= 12; ++shift) {
+        for (int j = 1; j < 4096; ++j) {
+            EXPECT_LIKE_PRINTF(std::ldexp(j, shift));
+        }
+        for (int j = 1000001; j < 1000001 + 2000; j += 2) {
+            EXPECT_LIKE_PRINTF(std::ldexp(j, shift));
+        }
+    }
+}
+
+// Every scaled entry of the LNAV tables, with the extreme and random raw values.
+TEST(WriteG, ScaledTableValues) {
+    std::mt19937 random(32);
+    for (const ZeltNavMsg::Legacy::SubframeIf* signal :
+         {static_cast<const ZeltNavMsg::Legacy::SubframeIf*>(
+              &ZeltNavMsg::Legacy::GPS_L1CA_Interface),
+          static_cast<const ZeltNavMsg::Legacy::SubframeIf*>(
+              &ZeltNavMsg::Legacy::QZSS_L1CA_Interface)}) {
+        for (const auto& field : signal->fields()) {
+            if (field.valueType < 2) {
+                continue;
+            }
+            for (const std::int64_t raw :
+                 {std::int64_t{0}, std::int64_t{1}, std::int64_t{-1}, std::int64_t{INT32_MAX},
+                  std::int64_t{INT32_MIN}, std::int64_t{UINT32_MAX}}) {
+                EXPECT_LIKE_PRINTF(static_cast<double>(raw) * field.scale);
+            }
+            for (int i = 0; i < 3000; ++i) {
+                const auto raw = static_cast<std::int32_t>(random()) >> (random() % 32);
+                EXPECT_LIKE_PRINTF(static_cast<double>(raw) * field.scale);
+            }
+        }
+    }
+}
+
+TEST(WriteHex, PadsToTheDigitCountAndNeverCuts) {
+    struct Case {
+        std::uint64_t value;
+        int digits;
+    };
+    const Case cases[] = {{0, 1},
+                          {0, 4},
+                          {0xABC, 1},
+                          {0xABC, 3},
+                          {0xABC, 5},
+                          {0x10, 1},
+                          {0xF, 1},
+                          {0x1FFFFFFF, 8},
+                          {0xFFFFFFFF, 2},
+                          {~std::uint64_t{0}, 1},
+                          {0x8000000000000000, 20}};
+    for (const Case& c : cases) {
+        char expected[32];
+        const int n = std::snprintf(expected, sizeof expected, "%0*llX", c.digits,
+                                    static_cast<unsigned long long>(c.value));
+        char text[32];
+        EXPECT_EQ(std::string(text, writeHex(text, c.value, c.digits)),
+                  std::string(expected, static_cast<std::size_t>(n)))
+            << c.value << " in " << c.digits;
+    }
+}
+
+}  // namespace
