@@ -28,7 +28,7 @@ streams)
             split($1, where, ":"); member = where[2]
             name = $0; sub(/^[^ ]* +([0-9a-f]+ +)?[A-Za-z] +/, "", name)
         }
-        / [TW] / && name ~ /SubframeCoder::WriteWord(AtEdge)?\(/ { writer[member] = 1 }
+        / T / && name ~ /SubframeCoder::WriteWordAtEdge\(/ { writer[member] = 1 }
         / U / && name ~ /^(__)?(v?f?printf|f?puts|putc(har)?|fputc|fwrite|write|perror)(_chk|_unlocked)?$|^(stdout|stderr)$|^std::w?(cout|cerr|clog)$/ {
             uses[member] = uses[member] " " name
         }
