@@ -21,6 +21,8 @@
 
 #include "AllocationCounter.h"
 #include "api/HexInput.h"
+#include "legacy/BeidouD1Interface.h"
+#include "legacy/BeidouD2Interface.h"
 #include "legacy/GpsL1caInterface.h"
 #include "legacy/QzssL1caInterface.h"
 #include "support/NaiveLegacyListing.h"
@@ -44,6 +46,12 @@ struct BenchFormat {
 const BenchFormat kFormats[] = {
     {"GpsLNav", MessageFormat::GpsLNav, "gps_lnav.tsv", &Legacy::GPS_L1CA_Interface},
     {"QzssLNav", MessageFormat::QzssLNav, "qzss_lnav.tsv", &Legacy::QZSS_L1CA_Interface},
+    {"BeidouD1", MessageFormat::BeidouD1, "beidou_d1.tsv", &Legacy::BEIDOU_D1_Interface},
+    {"BeidouD2", MessageFormat::BeidouD2, "beidou_d2.tsv", &Legacy::BEIDOU_D2_Interface},
+    {"GpsCNav2", MessageFormat::GpsCNav2, "gps_cnav2.tsv", nullptr},
+    {"BeidouCNav1", MessageFormat::BeidouCNav1, "beidou_cnav1.tsv", nullptr},
+    {"BeidouCNav2", MessageFormat::BeidouCNav2, "beidou_cnav2.tsv", nullptr},
+    {"Irnss", MessageFormat::Irnss, "irnss.tsv", nullptr},
 };
 
 struct Message {

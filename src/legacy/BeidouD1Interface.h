@@ -12,7 +12,8 @@ namespace ZeltNavMsg::Legacy {
 class BEIDOU_D1_InterfaceType final : public SubframeIf {
   public:
     constexpr BEIDOU_D1_InterfaceType() noexcept
-        : SubframeIf(kBeidouD1Fields.data(), static_cast<std::int32_t>(kBeidouD1Fields.size())) {}
+        : SubframeIf(kBeidouD1Fields.data(), static_cast<std::int32_t>(kBeidouD1Fields.size()),
+                     &kBeidouD1Listing) {}
 
     [[nodiscard]] std::int32_t GetLayoutId(const subframe_t& sf) const override;
     [[nodiscard]] const SubframeCoder& GetCoder() const override { return coder_; }

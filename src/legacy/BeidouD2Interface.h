@@ -13,7 +13,8 @@ namespace ZeltNavMsg::Legacy {
 class BEIDOU_D2_InterfaceType final : public SubframeIf {
   public:
     constexpr BEIDOU_D2_InterfaceType() noexcept
-        : SubframeIf(kBeidouD2Fields.data(), static_cast<std::int32_t>(kBeidouD2Fields.size())) {}
+        : SubframeIf(kBeidouD2Fields.data(), static_cast<std::int32_t>(kBeidouD2Fields.size()),
+                     &kBeidouD2Listing) {}
 
     [[nodiscard]] std::int32_t GetLayoutId(const subframe_t& sf) const override;
     [[nodiscard]] const SubframeCoder& GetCoder() const override { return coder_; }

@@ -6,7 +6,7 @@ namespace ZeltNavMsg::Legacy {
 // 2-10 22 each, so word k's data starts at bit 30(k-1)+1. Scales in decimal are
 // 12-digit constants, used as written.
 // clang-format off
-constinit const std::array<SubframeFieldInfo, kBeidouD1FieldCount> kBeidouD1Fields = {{
+constexpr std::array<SubframeFieldInfo, kBeidouD1FieldCount> kBeidouD1Fields = {{
     // Every subframe: preamble, subframe id, seconds of week.
     field("pre", {{1, 11}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x8, 1, 1810),
     field("fraid", {{16, 3}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x0, 1, 1),
@@ -165,5 +165,10 @@ constinit const std::array<SubframeFieldInfo, kBeidouD1FieldCount> kBeidouD1Fiel
     field("rev3", {{271, 22}}, kUnsigned, 0.0, nullptr, 13, 5, 24, 0x20, 0),
 }};
 // clang-format on
+
+namespace {
+constexpr auto kPlanData = planListing(kBeidouD1Fields);
+}
+constinit const ListingPlan kBeidouD1Listing = kPlanData.plan();
 
 }  // namespace ZeltNavMsg::Legacy

@@ -6,7 +6,7 @@ namespace ZeltNavMsg::Legacy {
 // split over two pages print as two lines, "_1" the most significant part and "_2"
 // the least; the listing of one page cannot join them.
 // clang-format off
-constinit const std::array<SubframeFieldInfo, kBeidouD2FieldCount> kBeidouD2Fields = {{
+constexpr std::array<SubframeFieldInfo, kBeidouD2FieldCount> kBeidouD2Fields = {{
     // Every subframe: preamble, subframe id, seconds of week.
     field("pre", {{1, 11}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x8, 1, 1810),
     field("rev", {{12, 4}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x20, 1),
@@ -205,5 +205,10 @@ constinit const std::array<SubframeFieldInfo, kBeidouD2FieldCount> kBeidouD2Fiel
     field("rev5", {{271, 22}}, kUnsigned, 0.0, nullptr, 24, 5, 116, 0x20, 0),
 }};
 // clang-format on
+
+namespace {
+constexpr auto kPlanData = planListing(kBeidouD2Fields);
+}
+constinit const ListingPlan kBeidouD2Listing = kPlanData.plan();
 
 }  // namespace ZeltNavMsg::Legacy

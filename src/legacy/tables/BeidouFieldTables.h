@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 
+#include "legacy/ListingPlan.h"
 #include "legacy/SubframeFieldInfo.h"
 
 namespace ZeltNavMsg::Legacy {
@@ -14,6 +15,10 @@ inline constexpr std::size_t kBeidouD2FieldCount = 157;
 // Constant-initialised: usable from any static initialiser of a host.
 extern const std::array<SubframeFieldInfo, kBeidouD1FieldCount> kBeidouD1Fields;
 extern const std::array<SubframeFieldInfo, kBeidouD2FieldCount> kBeidouD2Fields;
+
+// Their printing plans (planListing of each table), made at compile time.
+extern const ListingPlan kBeidouD1Listing;
+extern const ListingPlan kBeidouD2Listing;
 
 }  // namespace ZeltNavMsg::Legacy
 
