@@ -19,8 +19,8 @@ void BitFieldBoolDef::writeDefault(BitBuffer& buffer) const {
     write(buffer, defaultValue() != 0.0);
 }
 
-char* BitFieldBoolDef::writeValueText(ConstBitBuffer buffer, char* dst) const {
-    *dst = read(buffer) ? '1' : '0';
+char* BitFieldBoolDef::writeValueText(std::uint64_t raw, char* dst) const {
+    *dst = (raw & 1U) != 0 ? '1' : '0';
     return dst + 1;
 }
 

@@ -16,7 +16,7 @@ class BitFieldBoolDef : public BitFieldValueDef {
     void write(BitBuffer buffer, bool value) const noexcept;
     // 1 when the default value is not 0.0.
     void writeDefault(BitBuffer& buffer) const override;
-    char* writeValueText(ConstBitBuffer buffer, char* dst) const override;
+    char* writeValueText(std::uint64_t raw, char* dst) const override;
 };
 
 }  // namespace ZeltNavMsg

@@ -74,8 +74,9 @@ void BitFieldDoubleDef::writeDefault(BitBuffer& buffer) const {
     writeDouble(buffer, defaultValue());
 }
 
-char* BitFieldDoubleDef::writeValueText(ConstBitBuffer buffer, char* dst) const {
-    return Text::writeG(dst, read(buffer));
+char* BitFieldDoubleDef::writeValueText(std::uint64_t raw, char* dst) const {
+    return Text::writeG(dst,
+                        BitUtils::readDouble(raw, scaleFactor(), totalBitsCount(), numberFormat()));
 }
 
 }  // namespace ZeltNavMsg

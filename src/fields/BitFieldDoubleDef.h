@@ -20,7 +20,7 @@ class BitFieldDoubleDef : public BitFieldValueDef {
     void writeDouble(BitBuffer buffer, double value) const;
     void writeDefault(BitBuffer& buffer) const override;
     // "%g" of the value.
-    char* writeValueText(ConstBitBuffer buffer, char* dst) const override;
+    char* writeValueText(std::uint64_t raw, char* dst) const override;
 };
 
 }  // namespace ZeltNavMsg

@@ -22,12 +22,15 @@ BitFieldSignedIntDef::BitFieldSignedIntDef(BitStructDef* parent, std::string nam
 }
 
 std::int64_t BitFieldSignedIntDef::read(ConstBitBuffer buffer) const {
+    return valueOf(readRaw(buffer));
+}
+
+std::int64_t BitFieldSignedIntDef::valueOf(std::uint64_t raw) const {
     if (!isSignedFormat(numberFormat())) {
         throw std::runtime_error(
             "convertRawBitFieldToSignedInt: only signed number formats supported");
     }
-    const std::int64_t value =
-        BitUtils::decodeSignedNumber(readRaw(buffer), totalBitsCount(), numberFormat());
+    const std::int64_t value = BitUtils::decodeSignedNumber(raw, totalBitsCount(), numberFormat());
     // Wrapping product: an oversized scale on a wide field must not be undefined.
     return static_cast<std::int64_t>(static_cast<std::uint64_t>(value) *
                                      static_cast<std::uint64_t>(std::int64_t{readMultiplier_}));
@@ -55,8 +58,8 @@ void BitFieldSignedIntDef::writeDefault(BitBuffer& buffer) const {
     write(buffer, truncateToInt64(defaultValue()));
 }
 
-char* BitFieldSignedIntDef::writeValueText(ConstBitBuffer buffer, char* dst) const {
-    return Text::writeSigned(dst, read(buffer));
+char* BitFieldSignedIntDef::writeValueText(std::uint64_t raw, char* dst) const {
+    return Text::writeSigned(dst, valueOf(raw));
 }
 
 }  // namespace ZeltNavMsg

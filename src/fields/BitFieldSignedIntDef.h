@@ -20,9 +20,11 @@ class BitFieldSignedIntDef : public BitFieldValueDef {
     // divides to 0 still counts as negative).
     void write(BitBuffer buffer, std::int64_t value) const;
     void writeDefault(BitBuffer& buffer) const override;
-    char* writeValueText(ConstBitBuffer buffer, char* dst) const override;
+    char* writeValueText(std::uint64_t raw, char* dst) const override;
 
   private:
+    [[nodiscard]] std::int64_t valueOf(std::uint64_t raw) const;
+
     std::int32_t readMultiplier_;
     std::int64_t writeDivisor_;
 };

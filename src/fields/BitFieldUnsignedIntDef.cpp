@@ -20,7 +20,7 @@ BitFieldUnsignedIntDef::BitFieldUnsignedIntDef(BitStructDef* parent, std::string
 }
 
 std::uint64_t BitFieldUnsignedIntDef::read(ConstBitBuffer buffer) const noexcept {
-    return (readRaw(buffer) & lowBitsMask(totalBitsCount())) * multiplier_;
+    return valueOf(readRaw(buffer));
 }
 
 void BitFieldUnsignedIntDef::write(BitBuffer buffer, std::uint64_t value) const {
@@ -35,8 +35,8 @@ void BitFieldUnsignedIntDef::writeDefault(BitBuffer& buffer) const {
     write(buffer, truncateToUInt64(defaultValue()));
 }
 
-char* BitFieldUnsignedIntDef::writeValueText(ConstBitBuffer buffer, char* dst) const {
-    return Text::writeUnsigned(dst, read(buffer));
+char* BitFieldUnsignedIntDef::writeValueText(std::uint64_t raw, char* dst) const {
+    return Text::writeUnsigned(dst, valueOf(raw));
 }
 
 }  // namespace ZeltNavMsg

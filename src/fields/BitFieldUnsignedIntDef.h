@@ -1,6 +1,7 @@
 #ifndef ZELTNAVMSG_FIELDS_BITFIELDUNSIGNEDINTDEF_H
 #define ZELTNAVMSG_FIELDS_BITFIELDUNSIGNEDINTDEF_H
 
+#include "bits/BitUtils.h"
 #include "fields/BitFieldValueDef.h"
 
 namespace ZeltNavMsg {
@@ -19,9 +20,13 @@ class BitFieldUnsignedIntDef : public BitFieldValueDef {
     // std::runtime_error rather than dividing by zero.
     void write(BitBuffer buffer, std::uint64_t value) const;
     void writeDefault(BitBuffer& buffer) const override;
-    char* writeValueText(ConstBitBuffer buffer, char* dst) const override;
+    char* writeValueText(std::uint64_t raw, char* dst) const override;
 
   private:
+    [[nodiscard]] std::uint64_t valueOf(std::uint64_t raw) const noexcept {
+        return (raw & lowBitsMask(totalBitsCount())) * multiplier_;
+    }
+
     std::uint64_t multiplier_;
 };
 

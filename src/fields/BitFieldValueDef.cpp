@@ -1,5 +1,6 @@
 #include "fields/BitFieldValueDef.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <stdexcept>
@@ -13,7 +14,15 @@ BitFieldValueDef::BitFieldValueDef(BitStructDef* parent, std::string name,
                                    const Modifiers& modifiers)
     : BitFieldDef(parent, std::move(name), std::move(ranges), modifiers, false),
       numberFormat_(numberFormat),
-      singleRange_(BitFieldDef::ranges().size() == 1) {
+      singleRange_(BitFieldDef::ranges().size() == 1),
+      windowed_(singleRange_ && totalBitsCount() <= 57),
+      hexDigits_(std::min((totalBitsCount() + 3) / 4, 17)),
+      label_(BitFieldDef::name() + ": "),
+      unitsSuffix_(units().empty() ? std::string() : " " + units()) {
+    if (windowed_) {
+        firstByte_ = BitFieldDef::ranges().front().firstBitIndex() / 8;
+        windowShift_ = BitFieldDef::ranges().front().firstBitIndex() % 8;
+    }
     if (numberFormat_ == NumberFormat::UnknownNumberFormat) {
         throw std::runtime_error("BitFieldValueDef: numberFormat can't be UnknownNumberFormat");
     }
@@ -25,10 +34,10 @@ void BitFieldValueDef::fail(const char* kind, const char* what) const {
 
 std::string BitFieldValueDef::valueToString(ConstBitBuffer buffer) const {
     char text[kMaxValueText];
-    return {text, writeValueText(buffer, text)};
+    return {text, writeValueText(readRaw(buffer), text)};
 }
 
-std::uint64_t BitFieldValueDef::readRaw(ConstBitBuffer buffer) const noexcept {
+std::uint64_t BitFieldValueDef::readRawSlow(ConstBitBuffer buffer) const noexcept {
     return singleRange_ ? BitUtils::readBits(ranges().front(), buffer)
                         : BitUtils::readBits(ranges(), buffer);
 }

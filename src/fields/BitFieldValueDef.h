@@ -7,6 +7,7 @@
 
 #include "bits/NumberFormat.h"
 #include "fields/BitFieldDef.h"
+#include "text/PaddedText.h"
 
 namespace ZeltNavMsg {
 
@@ -20,13 +21,30 @@ class BitFieldValueDef : public BitFieldDef {
 
     // The value as the description prints it.
     [[nodiscard]] std::string valueToString(ConstBitBuffer buffer) const;
-    // The same text written at `dst` (kMaxValueText characters of room); returns its end.
-    virtual char* writeValueText(ConstBitBuffer buffer, char* dst) const = 0;
+    // The same text for the field's raw bits `raw` (as readRaw gives them), written at
+    // `dst` (kMaxValueText characters of room); returns its end.
+    virtual char* writeValueText(std::uint64_t raw, char* dst) const = 0;
 
     // The field's bits as one unsigned number, ranges concatenated (low 64 bits).
-    [[nodiscard]] std::uint64_t readRaw(ConstBitBuffer buffer) const noexcept;
+    [[nodiscard]] std::uint64_t readRaw(ConstBitBuffer buffer) const noexcept {
+        // One unaligned 8-byte load when the field is a single run of at most 57 bits
+        // whose 8 bytes all lie inside the buffer.
+        if (windowed_ && firstByte_ + 8 <= (buffer.bitsCount() + 7) / 8) {
+            return (loadBigEndian64(buffer.data() + firstByte_) << windowShift_) >>
+                   (64 - totalBitsCount());
+        }
+        return readRawSlow(buffer);
+    }
+    // Stores the low bits of `raw` in the field's ranges.
     // Stores the low bits of `raw` in the field's ranges.
     void writeRaw(BitBuffer buffer, std::uint64_t raw) const noexcept;
+
+    // What the listing prints around the value: the name and ": ", and a blank and the
+    // units (empty without units); both copied in chunks.
+    [[nodiscard]] const Text::PaddedText& label() const noexcept { return label_; }
+    [[nodiscard]] const Text::PaddedText& unitsSuffix() const noexcept { return unitsSuffix_; }
+    // Hex digits of the raw part: ceil(bits / 4), at most 17.
+    [[nodiscard]] int hexDigits() const noexcept { return hexDigits_; }
 
   protected:
     // Throws std::runtime_error "BitFieldValueDef: numberFormat can't be UnknownNumberFormat".
@@ -37,8 +55,23 @@ class BitFieldValueDef : public BitFieldDef {
     [[noreturn]] void fail(const char* kind, const char* what) const;
 
   private:
+    [[nodiscard]] std::uint64_t readRawSlow(ConstBitBuffer buffer) const noexcept;
+    static std::uint64_t loadBigEndian64(const std::uint8_t* p) noexcept {
+        std::uint64_t v = 0;
+        for (int i = 0; i < 8; ++i) {  // one load and a byte swap once optimised
+            v = (v << 8) | p[i];
+        }
+        return v;
+    }
+
     NumberFormat numberFormat_;
     bool singleRange_;
+    bool windowed_;
+    std::int32_t firstByte_ = 0;
+    std::int32_t windowShift_ = 0;
+    int hexDigits_;
+    Text::PaddedText label_;
+    Text::PaddedText unitsSuffix_;
 };
 
 // Integer multiplier of a scale factor, truncated toward zero. Values the integer

@@ -9,6 +9,7 @@
 #include "fields/BitFieldValueDef.h"
 #include "fields/BitStructDef.h"
 #include "text/NumberText.h"
+#include "text/PaddedText.h"
 
 // The one walk over a definition tree and a bit buffer. It decides what is shown:
 // hidden members are skipped, a variant member only when its container id is the
@@ -26,6 +27,7 @@ namespace ZeltNavMsg::Describe {
 struct ValueLine {
     const BitFieldValueDef& field;
     std::uint32_t level;
+    // Both texts may be read Text::kCopySlack bytes past their end.
     std::string_view value;   // the value text
     std::string_view rawHex;  // upper-case digits, padded to the field's width
     bool showValue;           // false for RawHexOnly
@@ -73,13 +75,13 @@ bool walkStruct(const BitStructDef& def, ConstBitBuffer buffer, std::uint32_t le
 template <class Sink>
 bool walkValue(const BitFieldValueDef& def, ConstBitBuffer buffer, std::uint32_t level,
                Sink& sink) {
-    char value[BitFieldValueDef::kMaxValueText];
-    const char* valueEnd = def.writeValueText(buffer, value);
-    const std::int32_t width = def.totalBitsCount();
-    const std::uint64_t raw = def.readRaw(buffer) & lowBitsMask(width);
-    char hex[24];
-    const int digits = std::min((width + 3) / 4, 17);
-    const char* hexEnd = Text::writeHex(hex, raw, digits);
+    // Both texts keep Text::kCopySlack bytes of room after them for chunked copies.
+    char value[BitFieldValueDef::kMaxValueText + Text::kCopySlack];
+    char hex[24 + Text::kCopySlack];
+    const std::uint64_t raw = def.readRaw(buffer);
+    const char* valueEnd = def.writeValueText(raw, value);
+    const char* hexEnd =
+        Text::writeHex(hex, raw & lowBitsMask(def.totalBitsCount()), def.hexDigits());
     const std::string_view valueText(value, static_cast<std::size_t>(valueEnd - value));
     const std::string_view hexText(hex, static_cast<std::size_t>(hexEnd - hex));
     sink.value(

@@ -1,11 +1,15 @@
 #include "fields/ReadableDescription.h"
 
+#include <cstring>
+
 #include "fields/DescriptionWalker.h"
 
 namespace ZeltNavMsg::Describe {
 
 namespace {
 
+// Writes each line with one reservation and chunked copies: every text it copies
+// has Text::kCopySlack readable bytes after it, and it reserves that much spare room.
 class TextSink {
   public:
     explicit TextSink(Text::TextBuffer& out) noexcept : out_(out) {}
@@ -18,25 +22,39 @@ class TextSink {
     void lineBreak() { out_.newline(); }
 
     void value(const ValueLine& line) {
-        out_.appendRepeated('\t', line.level);
-        out_.append(line.field.name());
-        out_.append(": ");
+        const BitFieldValueDef& field = line.field;
+        constexpr std::size_t kRawHexTag = 10;  // ", Raw hex:"
+        const std::size_t room = line.level + field.label().size() + line.value.size() +
+                                 field.unitsSuffix().size() + kRawHexTag + line.rawHex.size() +
+                                 Text::kCopySlack;
+        char* p = out_.reserve(room);
+        p = putTabs(p, line.level);
+        p = field.label().copyTo(p);
         if (line.showValue) {
-            out_.append(line.value);
-            if (!line.field.units().empty()) {
-                out_.append(' ');
-                out_.append(line.field.units());
-            }
+            p = Text::copyChunks(p, line.value.data(), line.value.size());
+            p = field.unitsSuffix().copyTo(p);
         }
         if (line.showRawHex) {
             if (line.showValue) {
-                out_.append(", Raw hex:");
+                std::memcpy(p, ", Raw hex:", kRawHexTag);
+                p += kRawHexTag;
             }
-            out_.append(line.rawHex);
+            p = Text::copyChunks(p, line.rawHex.data(), line.rawHex.size());
         }
+        out_.commit(p);
     }
 
   private:
+    static char* putTabs(char* p, std::uint32_t level) noexcept {
+        static constexpr char kTabs[] = "\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t";
+        if (level <= Text::kCopySlack) {
+            std::memcpy(p, kTabs, Text::kCopySlack);  // trees are a few levels deep
+            return p + level;
+        }
+        std::memset(p, '\t', level);
+        return p + level;
+    }
+
     Text::TextBuffer& out_;
 };
 
