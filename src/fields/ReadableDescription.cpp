@@ -15,8 +15,9 @@ class TextSink {
     explicit TextSink(Text::TextBuffer& out) noexcept : out_(out) {}
 
     void heading(const BitStructDef& def, std::uint32_t level) {
-        out_.appendRepeated('\t', level);
-        out_.append(def.name());
+        char* p = out_.reserve(level + def.heading().size() + Text::kCopySlack);
+        p = putTabs(p, level);
+        out_.commit(def.heading().copyTo(p));
     }
 
     void lineBreak() { out_.newline(); }

@@ -54,7 +54,10 @@ class TextBuffer {
         std::memset(p, c, count);
         size_ += count;
     }
-    void newline() { append(lineEnd_); }
+    void newline() {
+        char* p = reserve(2);
+        size_ = static_cast<std::size_t>(putLineEnd(p) - data_);
+    }
     // Writes the line end at `p`, inside room taken with reserve() (two characters
     // are always stored), and returns its end.
     char* putLineEnd(char* p) const noexcept {
