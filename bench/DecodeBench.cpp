@@ -25,7 +25,12 @@
 #include "legacy/BeidouD2Interface.h"
 #include "legacy/GpsL1caInterface.h"
 #include "legacy/QzssL1caInterface.h"
+#include "schemas/beidou_cnav1/FrameDef.h"
+#include "schemas/beidou_cnav2/FrameDef.h"
+#include "schemas/gps_cnav2/FrameDef.h"
+#include "schemas/irnss/SubframeDef.h"
 #include "support/NaiveLegacyListing.h"
+#include "support/NaiveTreeListing.h"
 #include "zeltnavmsg/NavMessageDecoder.h"
 
 namespace {
@@ -38,9 +43,25 @@ struct BenchFormat {
     const char* name;
     MessageFormat format;
     const char* dataFile;  // in tests/data/real-data
-    // The signal of a legacy format, for the snprintf baseline; nullptr runs none.
+    // For the snprintf baseline: the signal of a legacy format, or the root and
+    // frame length of a definition tree.
     const Legacy::SubframeIf* legacySignal;
+    const ZeltNavMsg::BitStructDef& (*treeRoot)() = nullptr;
+    int treeBits = 0;
 };
+
+const ZeltNavMsg::BitStructDef& gpsCNav2() {
+    return ZeltNavMsg::GpsCNav2::gpsCNav2FrameDef();
+}
+const ZeltNavMsg::BitStructDef& beidouCNav1() {
+    return ZeltNavMsg::BeidouCNav1::beidouCNav1FrameDef();
+}
+const ZeltNavMsg::BitStructDef& beidouCNav2() {
+    return ZeltNavMsg::BeidouCNav2::beidouCNav2FrameDef();
+}
+const ZeltNavMsg::BitStructDef& irnss() {
+    return ZeltNavMsg::Irnss::irnssSubframeDef();
+}
 
 // The formats measured: one line each.
 const BenchFormat kFormats[] = {
@@ -48,10 +69,10 @@ const BenchFormat kFormats[] = {
     {"QzssLNav", MessageFormat::QzssLNav, "qzss_lnav.tsv", &Legacy::QZSS_L1CA_Interface},
     {"BeidouD1", MessageFormat::BeidouD1, "beidou_d1.tsv", &Legacy::BEIDOU_D1_Interface},
     {"BeidouD2", MessageFormat::BeidouD2, "beidou_d2.tsv", &Legacy::BEIDOU_D2_Interface},
-    {"GpsCNav2", MessageFormat::GpsCNav2, "gps_cnav2.tsv", nullptr},
-    {"BeidouCNav1", MessageFormat::BeidouCNav1, "beidou_cnav1.tsv", nullptr},
-    {"BeidouCNav2", MessageFormat::BeidouCNav2, "beidou_cnav2.tsv", nullptr},
-    {"Irnss", MessageFormat::Irnss, "irnss.tsv", nullptr},
+    {"GpsCNav2", MessageFormat::GpsCNav2, "gps_cnav2.tsv", nullptr, gpsCNav2, 883},
+    {"BeidouCNav1", MessageFormat::BeidouCNav1, "beidou_cnav1.tsv", nullptr, beidouCNav1, 878},
+    {"BeidouCNav2", MessageFormat::BeidouCNav2, "beidou_cnav2.tsv", nullptr, beidouCNav2, 288},
+    {"Irnss", MessageFormat::Irnss, "irnss.tsv", nullptr, irnss, 292},
 };
 
 struct Message {
@@ -135,11 +156,19 @@ void benchHexParsing(benchmark::State& state, const FormatData* data) {
     });
 }
 
+// The plain snprintf listing of a message of the format.
+std::string naiveListing(const BenchFormat& format, const Message& m) {
+    if (format.legacySignal != nullptr) {
+        return ZeltNavMsg::Testing::naiveLegacyListing(*format.legacySignal, m.subframe, m.page,
+                                                       m.hex);
+    }
+    return ZeltNavMsg::Testing::naiveTreeListing(format.treeRoot(), format.treeBits, m.hex);
+}
+
 void benchNaiveListing(benchmark::State& state, const FormatData* data) {
-    const Legacy::SubframeIf& signal = *data->format->legacySignal;
-    cycle(state, data->messages, [&signal](const Message& m) {
-        const std::string text =
-            ZeltNavMsg::Testing::naiveLegacyListing(signal, m.subframe, m.page, m.hex);
+    const BenchFormat& format = *data->format;
+    cycle(state, data->messages, [&format](const Message& m) {
+        const std::string text = naiveListing(format, m);
         benchmark::DoNotOptimize(text.data());
         return text.size();
     });
@@ -165,24 +194,17 @@ int main(int argc, char** argv) {
 
     for (const FormatData& d : data) {
         // The baseline is only a yardstick if it makes the same text.
-        if (d.format->legacySignal != nullptr) {
-            for (const Message& m : d.messages) {
-                if (NavMessageDecoder::Decode(d.format->format, m.subframe, m.page, m.hex) !=
-                    ZeltNavMsg::Testing::naiveLegacyListing(*d.format->legacySignal, m.subframe,
-                                                            m.page, m.hex)) {
-                    std::fprintf(stderr, "%s: listings differ for %s\n", d.format->name,
-                                 m.hex.c_str());
-                    return 1;
-                }
+        for (const Message& m : d.messages) {
+            if (NavMessageDecoder::Decode(d.format->format, m.subframe, m.page, m.hex) !=
+                naiveListing(*d.format, m)) {
+                std::fprintf(stderr, "%s: listings differ for %s\n", d.format->name, m.hex.c_str());
+                return 1;
             }
         }
         const std::string name = d.format->name;
         benchmark::RegisterBenchmark(("Decode/" + name).c_str(), benchDecode, &d);
         benchmark::RegisterBenchmark(("HexParsing/" + name).c_str(), benchHexParsing, &d);
-        if (d.format->legacySignal != nullptr) {
-            benchmark::RegisterBenchmark(("SnprintfListing/" + name).c_str(), benchNaiveListing,
-                                         &d);
-        }
+        benchmark::RegisterBenchmark(("SnprintfListing/" + name).c_str(), benchNaiveListing, &d);
     }
 
     benchmark::RunSpecifiedBenchmarks();

@@ -7,7 +7,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/deps.sh libbenchmark-dev
+scripts/deps.sh libbenchmark-dev bc
 cmake --workflow --preset bench >/dev/null
 
 build/bench/bench/zeltnavmsg_bench --benchmark_repetitions=5 \
