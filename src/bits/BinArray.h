@@ -44,8 +44,8 @@ class BinArray {
         BitUtils::copyBits(to, buffer(), from, source);
     }
 
-    [[nodiscard]] BitBuffer buffer() noexcept { return {bytes_.data(), N}; }
-    [[nodiscard]] ConstBitBuffer buffer() const noexcept { return {bytes_.data(), N}; }
+    [[nodiscard]] BitBuffer buffer() { return {bytes_.data(), N}; }
+    [[nodiscard]] ConstBitBuffer buffer() const { return {bytes_.data(), N}; }
     [[nodiscard]] std::uint8_t* data() noexcept { return bytes_.data(); }
     [[nodiscard]] const std::uint8_t* data() const noexcept { return bytes_.data(); }
 

@@ -28,6 +28,7 @@ class BitBufferWrapper {
     // A view of mutable bytes is also a view of constant ones.
     template <typename Q>
     requires(!std::is_same_v<Q, P> && std::is_convertible_v<Q, P>)
+        // cppcheck-suppress noExplicitConstructor ; the conversion is meant to be implicit
         BitBufferWrapper(const BitBufferWrapper<Q>& other)
     noexcept  // NOLINT(google-explicit-constructor)
         : ptr_(other.data()), bitsCount_(other.bitsCount()) {}

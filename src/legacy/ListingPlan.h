@@ -108,7 +108,7 @@ constexpr PlannedSegment segment(std::int64_t first, std::int64_t length) {
         length = 32;
     }
     const std::int64_t index = first - 1;
-    if (index >= 8 * subframe_t::kDataBytes) {
+    if (index >= std::int64_t{8} * subframe_t::kDataBytes) {
         return {kZeroBytes, 0, static_cast<std::uint8_t>(length)};
     }
     return {static_cast<std::uint8_t>(index / 8), static_cast<std::uint8_t>(index % 8),

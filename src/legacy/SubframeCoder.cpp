@@ -93,6 +93,7 @@ bool SubframeCoder::WriteWordAtEdge(subframe_t& sf, std::int32_t firstBit, std::
     // All five bytes go back when they are all inside the record (those the word
     // does not cover keep their value); otherwise only the ones the word covers.
     std::uint8_t* const bytes = sf.data + firstByte;
+    // cppcheck-suppress knownConditionTrueFalse ; false for the last word of a long record
     if (firstByte + 5 <= subframe_t::kDataBytes) {
         for (int i = 0; i < 5; ++i) {
             bytes[i] = static_cast<std::uint8_t>(window >> (32 - 8 * i));

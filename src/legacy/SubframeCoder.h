@@ -28,6 +28,7 @@ class SubframeCoder {
     [[nodiscard]] static std::uint32_t ReadWord(const subframe_t& sf,
                                                 std::int32_t firstBit) noexcept {
         const std::int64_t index = std::int64_t{firstBit} - 1;
+        // cppcheck-suppress knownConditionTrueFalse ; false for a word near the end
         if (index >= 0 && index / 8 + 5 <= subframe_t::kDataBytes) {
             return static_cast<std::uint32_t>(readFiveBytes(sf.data + index / 8) >>
                                               (10 - index % 8)) &
@@ -41,6 +42,7 @@ class SubframeCoder {
     // mismatch is reported on the standard error stream and the result is true.
     static bool WriteWord(subframe_t& sf, std::int32_t firstBit, std::uint32_t value) {
         const std::int64_t index = std::int64_t{firstBit} - 1;
+        // cppcheck-suppress knownConditionTrueFalse ; false for a word near the end
         if (index >= 0 && index / 8 + 5 <= subframe_t::kDataBytes && index + 30 <= sf.bitCount) {
             // The five bytes go back whole; those bits the word does not cover keep
             // their value.

@@ -84,8 +84,9 @@ inline char* writeLine(char* p, const PlannedLine& line, const std::uint8_t* bit
     const std::uint32_t value = readValue(line, bits);
     if (line.hexDigits != 0) {
         char* const piece = p;
-        std::memcpy(p, " 0x", 3);
-        p = Text::writeHex(p + 3, value, line.hexDigits);
+        static constexpr char kHexPrefix[3] = {' ', '0', 'x'};  // not a C string
+        std::memcpy(p, kHexPrefix, sizeof kHexPrefix);
+        p = Text::writeHex(p + sizeof kHexPrefix, value, line.hexDigits);
         if (static_cast<std::size_t>(p - piece) > PlannedLine::kMaxPiece) {
             p = piece + PlannedLine::kMaxPiece;
         }

@@ -85,7 +85,8 @@ TEST(TreeListingCrossCheck, FastListingEqualsThePlainOne) {
                     const BitBuffer buffer(bytes.data(), c.bits);
                     selector->writeRaw(buffer, static_cast<std::uint64_t>(value));
                     if (selectorName == "Message ID") {  // IRNSS: subframes 3 and 4 carry messages
-                        findField(c.root, "Subframe ID")->writeRaw(buffer, 2U + (trial & 1U));
+                        findField(c.root, "Subframe ID")
+                            ->writeRaw(buffer, static_cast<std::uint64_t>(2 + trial % 2));
                     }
                     const std::string hex = hexOf(bytes, c.bits);
                     ASSERT_EQ(NavMessageDecoder::Decode(c.format, 0, 0, hex),
