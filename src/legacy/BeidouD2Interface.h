@@ -3,7 +3,7 @@
 
 #include "legacy/SubframeCoderBeidouNav.h"
 #include "legacy/SubframeIf.h"
-#include "legacy/tables/BeidouFieldTables.h"
+#include "legacy/tables/FieldTables.h"
 
 namespace ZeltNavMsg::Legacy {
 

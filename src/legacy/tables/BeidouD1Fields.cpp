@@ -1,4 +1,4 @@
-#include "legacy/tables/BeidouFieldTables.h"
+#include "legacy/tables/FieldTables.h"
 
 namespace ZeltNavMsg::Legacy {
 
