@@ -9,6 +9,7 @@
 #include <random>
 #include <string>
 
+#include "api/HexInput.h"
 #include "legacy/BeidouD1Interface.h"
 #include "legacy/BeidouD2Interface.h"
 #include "legacy/GpsL1caInterface.h"
@@ -167,10 +168,7 @@ std::string describeToString(const SubframeIf& signal, std::int32_t subframe, st
     sf.page = page;
     sf.layoutId = signal.GetLayoutId(sf);
     sf.bitCount = static_cast<std::int32_t>(hex.size() * 4);
-    for (std::size_t i = 0; i < hex.size(); ++i) {
-        const int digit = std::stoi(hex.substr(i, 1), nullptr, 16);
-        sf.data[i / 2] = static_cast<std::uint8_t>(sf.data[i / 2] | (digit << (i % 2 ? 0 : 4)));
-    }
+    ZeltNavMsg::Detail::hexDigitsToBytes(hex, sf.data, sizeof sf.data);
     ZeltNavMsg::Text::TextBuffer text("\r\n");
     signal.describe(text, sf, SubframeIf::DecodingMode::DecodeWords);
     return text.str();

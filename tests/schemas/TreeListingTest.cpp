@@ -55,53 +55,46 @@ TEST(TreeListing, IrnssUnknownMessageShowsIdAndPrnOnly) {
     ASSERT_EQ(message0.lines[7], "\t\tMessage ID: 0, Raw hex:00");
     for (const unsigned id : {1U, 6U, 8U, 10U, 17U, 19U, 25U, 27U, 33U, 63U}) {
         static constexpr char kDigits[] = "0123456789ABCDEF";
+        const std::string raw = {kDigits[id >> 4], kDigits[id & 0xF]};
         std::string hex = message0.hex;
         hex[7] = kDigits[(std::stoi(hex.substr(7, 1), nullptr, 16) & 0xC) | (id >> 4)];
-        hex[8] = kDigits[id & 0xF];
+        hex[8] = raw[1];
         std::vector<std::string> expected = message0.lines;
-        expected[7] = "\t\tMessage ID: " + std::to_string(id) + ", Raw hex:" + hex[8];
-        expected[7].insert(expected[7].size() - 1, 1, kDigits[id >> 4]);
+        expected[7] = "\t\tMessage ID: " + std::to_string(id) + ", Raw hex:" + raw;
         EXPECT_EQ(decodeLines(MessageFormat::Irnss, hex), expected) << id;
     }
 }
 
 // The values the interface documents quote, each at its frame position (from bit 1).
 TEST(TreeListing, QuotedValues) {
-    struct Case {
+    const struct {
         MessageFormat format;
-        int bits;
         std::vector<std::array<std::uint64_t, 3>> fields;  // first bit, width, value
         std::vector<std::string> lines;                    // consecutive lines of the listing
-    };
-    const Case cases[] = {
+    } cases[] = {
         {MessageFormat::BeidouCNav1,  // "SOH" counts 18 s
-         878,
          {{7, 8, 200}},
          {"\tSubframe 1", "\t\tPRN: 0, Raw hex:00", "\t\tSOH: 3600, Raw hex:C8"}},
         {MessageFormat::BeidouCNav1,  // page 1: "alpha1", 10 bits of 1/8 TECu, all ones
-         878,
          {{615, 6, 1}, {657, 10, 0x3FF}},
          {"\t\t\tIonospheric delay correction model parameters",
           "\t\t\t\talpha1: 127.875 TECu, Raw hex:3FF", "\t\t\t\talpha2: 0 TECu, Raw hex:00"}},
         {MessageFormat::BeidouCNav2,  // "SOW" counts 3 s
-         288,
          {{13, 18, 100000}},
          {"B-CNAV2 Frame", "\tPRN: 0, Raw hex:00", "\tMesType: 0, Raw hex:00",
           "\tSOW: 300000, Raw hex:186A0", "\tCRC: 000000"}},
         {MessageFormat::BeidouCNav2,  // message 30: "alpha1" all ones
-         288,
          {{7, 6, 30}, {146, 10, 0x3FF}},
          {"\t\tIonospheric delay correction model parameters",
           "\t\t\talpha1: 127.875 TECu, Raw hex:3FF", "\t\t\talpha2: 0 TECu, Raw hex:00"}},
         {MessageFormat::BeidouCNav2,  // message 10: the common fields without a heading
-         288,
          {{7, 6, 10}, {31, 13, 1052}, {44, 10, 0b101'1001'110U}},
          {"\tMessage type 10 data", "\t\tWN: 1052, Raw hex:041C", "\t\tDIF (B2a): 1",
           "\t\tSIF (B2a): 0", "\t\tAIF (B2a): 1", "\t\tSISMAI: 9", "\t\tDIF (B1C): 1",
           "\t\tSIF (B1C): 1", "\t\tAIF (B1C): 0", "\t\tIODE: 0, Raw hex:00"}},
     };
-    for (const Case& c : cases) {
-        SubframeBits frame(c.bits);
+    for (const auto& c : cases) {
+        SubframeBits frame(c.format == MessageFormat::BeidouCNav1 ? 878 : 288);
         for (const auto& [first, width, value] : c.fields) {
             frame.put(static_cast<int>(first), static_cast<int>(width), value);
         }
