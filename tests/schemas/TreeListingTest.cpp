@@ -139,10 +139,12 @@ TEST(TreeListing, FastListingEqualsThePlainOne) {
                               [&] { return static_cast<std::uint8_t>(random()); });
                 const BitBuffer buffer(bytes.data(), tree.bits);
                 if (value >= 0x100) {  // IRNSS subframes 1 and 2
-                    findField(*tree.root, "Subframe ID")->writeRaw(buffer, (value >> 8) - 1U);
+                    findField(*tree.root, "Subframe ID")
+                        ->writeRaw(buffer, static_cast<std::uint64_t>((value >> 8) - 1));
                 } else {
                     if (tree.format == MessageFormat::Irnss) {  // subframes 3 and 4 carry messages
-                        findField(*tree.root, "Subframe ID")->writeRaw(buffer, 2U + trial % 2);
+                        findField(*tree.root, "Subframe ID")
+                            ->writeRaw(buffer, static_cast<std::uint64_t>(2 + trial % 2));
                     }
                     findField(*tree.root, selectorName)
                         ->writeRaw(buffer, static_cast<std::uint64_t>(value));
