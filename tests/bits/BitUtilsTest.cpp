@@ -11,12 +11,14 @@
 #include <vector>
 
 #include "bits/BitUtils.h"
+#include "support/Thrown.h"
 
 namespace {
 
 using ZeltNavMsg::BitRange;
 using ZeltNavMsg::BitUtils;
 using ZeltNavMsg::NumberFormat;
+using ZeltNavMsg::Testing::thrownMessage;
 using Init = BitRange::InitializationType;
 
 bool bitAt(const std::vector<std::uint8_t>& bytes, int i) {
@@ -69,25 +71,6 @@ TEST(BitUtils, WritesEveryOffsetAndWidthTouchingNothingElse) {
     }
 }
 
-TEST(BitUtils, DocumentedExamples) {
-    const std::uint8_t abcd[2] = {0xAB, 0xCD};
-    const ZeltNavMsg::ConstBitBuffer buffer(abcd, 16);
-    EXPECT_EQ(BitUtils::readBits(BitRange(Init::FirstAndLastBit, 4, 11), buffer), 0xBCU);
-    EXPECT_EQ(BitUtils::readBits(BitRange(Init::FirstAndLastBit, 0, 15), buffer), 0xABCDU);
-    const BitRange list[] = {BitRange(Init::FirstAndLastBit, 0, 3),
-                             BitRange(Init::FirstAndLastBit, 12, 15)};
-    EXPECT_EQ(BitUtils::readBits(list, buffer), 0xADU);
-
-    std::uint8_t byte = 0xFC;
-    BitUtils::writeBits(BitRange(Init::FirstAndLastBit, 6, 7), ZeltNavMsg::BitBuffer(&byte, 8),
-                        0x3);
-    EXPECT_EQ(byte, 0xFF);
-    byte = 0x00;
-    BitUtils::writeBits(BitRange(Init::FirstAndLastBit, 0, 7), ZeltNavMsg::BitBuffer(&byte, 8),
-                        0x1FF);
-    EXPECT_EQ(byte, 0xFF);  // bit 8 of the value is dropped
-}
-
 TEST(BitUtils, RangeListsSplitTheValueMostSignificantFirst) {
     std::uint8_t bytes[4] = {};
     const BitRange list[] = {BitRange(Init::FirstBitAndCount, 20, 6),
@@ -103,20 +86,18 @@ TEST(BitUtils, RangeListsSplitTheValueMostSignificantFirst) {
     EXPECT_EQ(BitUtils::readBits(list, ZeltNavMsg::ConstBitBuffer(bytes, 32)), 0xBCDEU);
 }
 
-struct CopyCase {
-    int dstFirst;
-    int srcFirst;
-    int count;
-};
-
 TEST(BitUtils, CopyBitsMovesExactlyTheRange) {
-    const CopyCase cases[] = {
+    const struct {
+        int dstFirst;
+        int srcFirst;
+        int count;
+    } cases[] = {
         {0, 0, 72},   // whole bytes at once
         {8, 16, 64},  // exactly 64 aligned bits: one chunk
         {3, 0, 72},   // a 64-bit chunk and an 8-bit one
         {0, 5, 130}, {17, 9, 1}, {0, 0, 200},
     };
-    for (const CopyCase& c : cases) {
+    for (const auto& c : cases) {
         const std::vector<std::uint8_t> src = randomBytes(32, 3);
         std::vector<std::uint8_t> dst = randomBytes(32, 4);
         const std::vector<std::uint8_t> before = dst;
@@ -146,28 +127,21 @@ TEST(BitUtils, HexTextToBits) {
     EXPECT_EQ(bytes[0] >> 5, 0x3);
     BitUtils::convertHexStringToBinArray(nullptr, 5, bytes, 16);  // writes nothing
     EXPECT_EQ(bytes[1], 0xC0);
-    try {
-        BitUtils::convertHexStringToBinArray("1g", 2, bytes, 8);
-        ADD_FAILURE() << "no error";
-    } catch (const std::runtime_error& e) {
-        EXPECT_STREQ(
-            e.what(),
-            "BitUtils::convertHexStringToBinArray: hexString should contain only hex digits "
-            "(0-9, A-F, a-f)");
-    }
+    EXPECT_EQ(thrownMessage<std::runtime_error>(
+                  [&] { BitUtils::convertHexStringToBinArray("1g", 2, bytes, 8); }),
+              "BitUtils::convertHexStringToBinArray: hexString should contain only hex digits "
+              "(0-9, A-F, a-f)");
     EXPECT_THROW(BitUtils::convertHexStringToBinArray("1", 1, nullptr, 8), std::runtime_error);
     EXPECT_THROW(BitUtils::convertHexStringToBinArray("1", 1, bytes, 0), std::runtime_error);
 }
 
-struct SignedCase {
-    std::uint64_t raw;
-    int width;
-    unsigned format;
-    std::int64_t value;
-};
-
 TEST(BitUtils, DecodeSignedNumber) {
-    const SignedCase cases[] = {
+    const struct {
+        std::uint64_t raw;
+        int width;
+        unsigned format;
+        std::int64_t value;
+    } cases[] = {
         {0b1011, 4, 2, -5},
         {0b1011, 4, 4, -5},
         {0b1011, 4, 3, -3},
@@ -178,62 +152,47 @@ TEST(BitUtils, DecodeSignedNumber) {
         {0xFFFFFFFFFFFFFFFFULL, 64, 3, -0x7FFFFFFFFFFFFFFFLL},
         {0b10, 2, 2, -2},
     };
-    for (const SignedCase& c : cases) {
+    for (const auto& c : cases) {
         EXPECT_EQ(BitUtils::decodeSignedNumber(c.raw, c.width, static_cast<NumberFormat>(c.format)),
                   c.value)
             << c.raw << "/" << c.width << "/" << c.format;
     }
     for (unsigned format : {0U, 1U, 5U, 9U}) {
-        try {
-            (void)BitUtils::decodeSignedNumber(0b1011, 4, static_cast<NumberFormat>(format));
-            ADD_FAILURE() << "format " << format << " accepted";
-        } catch (const std::runtime_error& e) {
-            EXPECT_STREQ(e.what(), "decodeSignedNumber: Unknown number format");
-        }
+        EXPECT_EQ(thrownMessage<std::runtime_error>([&] {
+                      (void)BitUtils::decodeSignedNumber(0b1011, 4,
+                                                         static_cast<NumberFormat>(format));
+                  }),
+                  "decodeSignedNumber: Unknown number format");
     }
 }
 
-TEST(BitUtils, EncodeSignedNumber) {
-    EXPECT_EQ(BitUtils::encodeSignedNumber(5, true, 4, NumberFormat::TwosComplementNumberFormat),
-              0b1011U);
-    EXPECT_EQ(BitUtils::encodeSignedNumber(5, true, 4, NumberFormat::TwosComplementNumberFormatAlt),
-              0b1011U);
-    EXPECT_EQ(BitUtils::encodeSignedNumber(5, true, 4, NumberFormat::SignMagnitudeNumberFormat),
-              0b1101U);
-    EXPECT_EQ(BitUtils::encodeSignedNumber(5, false, 4, NumberFormat::UnsignedNumberFormat), 5U);
-    EXPECT_EQ(BitUtils::encodeSignedNumber(0, true, 8, NumberFormat::SignMagnitudeNumberFormat),
-              0x80U);
-    for (NumberFormat f : {NumberFormat::UnsignedNumberFormat, NumberFormat::UnknownNumberFormat}) {
-        try {
-            (void)BitUtils::encodeSignedNumber(5, true, 4, f);
-            ADD_FAILURE() << "unsigned format accepted";
-        } catch (const std::runtime_error& e) {
-            EXPECT_STREQ(e.what(), "encodeSignedNumber: only signed number formats are supported");
-        }
+TEST(BitUtils, EncodeSignedNumberReadDoubleAndDecimalTexts) {
+    using F = NumberFormat;
+    EXPECT_EQ(BitUtils::encodeSignedNumber(5, true, 4, F::TwosComplementNumberFormat), 0b1011U);
+    EXPECT_EQ(BitUtils::encodeSignedNumber(5, true, 4, F::TwosComplementNumberFormatAlt), 0b1011U);
+    EXPECT_EQ(BitUtils::encodeSignedNumber(5, true, 4, F::SignMagnitudeNumberFormat), 0b1101U);
+    EXPECT_EQ(BitUtils::encodeSignedNumber(5, false, 4, F::UnsignedNumberFormat), 5U);
+    EXPECT_EQ(BitUtils::encodeSignedNumber(0, true, 8, F::SignMagnitudeNumberFormat), 0x80U);
+    for (const F f : {F::UnsignedNumberFormat, F::UnknownNumberFormat}) {
+        EXPECT_EQ(thrownMessage<std::runtime_error>(
+                      [&] { (void)BitUtils::encodeSignedNumber(5, true, 4, f); }),
+                  "encodeSignedNumber: only signed number formats are supported");
     }
-}
-
-TEST(BitUtils, ReadDoubleByFormat) {
-    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, NumberFormat::UnsignedNumberFormat), 127.5);
-    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, NumberFormat::UnsignedNumberFormatAlt), 127.5);
-    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, NumberFormat::TwosComplementNumberFormat), -0.5);
-    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, NumberFormat::SignMagnitudeNumberFormat), -63.5);
-    EXPECT_EQ(
-        BitUtils::readDouble(0xFFFFFFFFFFFFFFFFULL, 1.0, 64, NumberFormat::UnsignedNumberFormat),
-        18446744073709551616.0);
-    EXPECT_THROW((void)BitUtils::readDouble(0xFF, 1.0, 8, NumberFormat::UnknownNumberFormat),
+    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, F::UnsignedNumberFormat), 127.5);
+    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, F::UnsignedNumberFormatAlt), 127.5);
+    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, F::TwosComplementNumberFormat), -0.5);
+    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, F::SignMagnitudeNumberFormat), -63.5);
+    EXPECT_EQ(BitUtils::readDouble(~0ULL, 1.0, 64, F::UnsignedNumberFormat),
+              18446744073709551616.0);
+    EXPECT_THROW((void)BitUtils::readDouble(0xFF, 1.0, 8, F::UnknownNumberFormat),
                  std::runtime_error);
-}
-
-TEST(BitUtils, DecimalTexts) {
     EXPECT_EQ(BitUtils::unsignedToString(0).view(), "0");
     EXPECT_EQ(BitUtils::unsignedToString(1234567890).view(), "1234567890");
-    EXPECT_EQ(BitUtils::unsignedToString(18446744073709551615ULL).view(), "18446744073709551615");
+    EXPECT_EQ(BitUtils::unsignedToString(~0ULL).view(), "18446744073709551615");
     EXPECT_EQ(BitUtils::signedToString(0).view(), "0");
     EXPECT_EQ(BitUtils::signedToString(-7).view(), "-7");
-    EXPECT_EQ(BitUtils::signedToString(2147483647).view(), "2147483647");
-    EXPECT_EQ(BitUtils::signedToString(std::numeric_limits<std::int32_t>::min()).view(),
-              "-2147483648");
+    EXPECT_EQ(BitUtils::signedToString(INT32_MAX).view(), "2147483647");
+    EXPECT_EQ(BitUtils::signedToString(INT32_MIN).view(), "-2147483648");
 }
 
 TEST(LimitedSizeString, RefusesTheCharacterPastItsCapacity) {
@@ -241,12 +200,8 @@ TEST(LimitedSizeString, RefusesTheCharacterPastItsCapacity) {
     s.append("abc");
     EXPECT_EQ(s.view(), "abc");
     EXPECT_STREQ(s.c_str(), "abc");
-    try {
-        s.push_back('d');
-        ADD_FAILURE() << "no error";
-    } catch (const std::runtime_error& e) {
-        EXPECT_STREQ(e.what(), "LimitedSizeString: not enough capacity");
-    }
+    EXPECT_EQ(thrownMessage<std::runtime_error>([&] { s.push_back('d'); }),
+              "LimitedSizeString: not enough capacity");
     EXPECT_EQ(s.view(), "abc");
 }
 

@@ -1,5 +1,4 @@
-// Construction of definitions: modifiers, absolute ranges, registration order,
-// declaration checks and arrays.
+// Construction of definitions: modifiers, absolute ranges, order, checks and arrays.
 
 #include <gtest/gtest.h>
 

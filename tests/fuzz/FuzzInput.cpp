@@ -25,39 +25,6 @@ constexpr std::uint8_t kUpperCase = 0x02;
 constexpr std::uint8_t kOddCount = 0x04;
 constexpr std::uint8_t kWhiteSpace = 0x08;
 
-class Reader {
-  public:
-    Reader(const std::uint8_t* data, std::size_t size) : data_(data), size_(size) {}
-
-    std::uint8_t byte() { return pos_ < size_ ? data_[pos_++] : 0; }
-
-    std::int32_t number() {
-        const std::uint8_t b = byte();
-        if (b < kMinByte) {
-            return b - kSmallOffset;
-        }
-        if (b == kMinByte) {
-            return INT32_MIN;
-        }
-        if (b == kMaxByte) {
-            return INT32_MAX;
-        }
-        std::uint32_t value = 0;
-        for (int shift = 0; shift < 32; shift += 8) {
-            value |= std::uint32_t{byte()} << shift;
-        }
-        return static_cast<std::int32_t>(value);
-    }
-
-    [[nodiscard]] const std::uint8_t* rest() const { return data_ + pos_; }
-    [[nodiscard]] std::size_t restSize() const { return size_ - pos_; }
-
-  private:
-    const std::uint8_t* data_;
-    std::size_t size_;
-    std::size_t pos_ = 0;
-};
-
 void appendNumber(std::vector<std::uint8_t>& out, std::int32_t value) {
     if (value >= -kSmallOffset && value < kMinByte - kSmallOffset) {
         out.push_back(static_cast<std::uint8_t>(value + kSmallOffset));
@@ -96,63 +63,29 @@ std::string_view trimmed(std::string_view s) {
     return s.substr(first, s.find_last_not_of(kBlanks) - first + 1);
 }
 
-std::string describe(const Request& r, const DecodeOutcome& got, std::string_view problem) {
-    std::ostringstream text;
-    text << problem << " (format " << r.format << ", subframe " << r.subframe << ", page " << r.page
-         << ", " << r.hex.size() << " characters; got " << got << ")";
-    return text.str();
-}
-
-std::optional<std::string> expectError(const Request& r, const DecodeOutcome& got, Kind kind,
-                                       std::string_view message) {
-    if (got.kind != kind || got.text != message) {
-        std::ostringstream text;
-        text << "expected " << Testing::kindName(kind) << " \"" << message << "\"";
-        return describe(r, got, text.str());
-    }
-    return std::nullopt;
-}
-
-std::optional<std::string> checkListing(const Request& r, const DecodeOutcome& got,
-                                        const Testing::SupportedFormat& row) {
-    if (got.kind != Kind::Text) {
-        return describe(r, got, "expected a listing");
-    }
-    const std::string& text = got.text;
-    if (text.empty()) {
-        return describe(r, got, "empty listing");
-    }
-    if (text.find('\0') != std::string::npos) {
-        return describe(r, got, "NUL character in the listing");
-    }
-    for (std::size_t i = text.find('\n'); i != std::string::npos; i = text.find('\n', i + 1)) {
-        if (i == 0 || text[i - 1] != '\r') {
-            return describe(r, got, "line feed without carriage return");
-        }
-    }
-    if (row.road == Testing::Road::Subframe) {
-        std::string header = "Subframe: " + std::to_string(r.subframe);
-        if (r.page > 0) {
-            header += " Page: " + std::to_string(r.page);
-        }
-        if (!text.starts_with(header + "\r\n")) {
-            return describe(r, got, "header line is not \"" + header + "\"");
-        }
-    }
-    return std::nullopt;
-}
-
 }  // namespace
 
 Request parseInput(const std::uint8_t* data, std::size_t size) {
-    Reader in(data, size);
+    std::size_t pos = 0;
+    const auto byte = [&]() -> std::uint8_t { return pos < size ? data[pos++] : 0; };
+    const auto number = [&]() -> std::int32_t {
+        const std::uint8_t b = byte();
+        if (b <= kMaxByte) {  // a small number, INT32_MIN or INT32_MAX
+            return b < kMinByte ? b - kSmallOffset : b == kMinByte ? INT32_MIN : INT32_MAX;
+        }
+        std::uint32_t value = 0;
+        for (int shift = 0; shift < 32; shift += 8) {
+            value |= std::uint32_t{byte()} << shift;
+        }
+        return static_cast<std::int32_t>(value);
+    };
     Request r;
-    r.format = in.number();
-    r.subframe = in.number();
-    r.page = in.number();
-    const std::uint8_t mode = in.byte();
-    const std::uint8_t* rest = in.rest();
-    const std::size_t restSize = in.restSize();
+    r.format = number();
+    r.subframe = number();
+    r.page = number();
+    const std::uint8_t mode = byte();
+    const std::uint8_t* rest = data + pos;
+    const std::size_t restSize = size - pos;
     if ((mode & kAsBits) == 0) {
         r.hex = std::string_view(reinterpret_cast<const char*>(rest), restSize);
         return r;
@@ -199,39 +132,39 @@ std::vector<std::uint8_t> encodeInput(std::int32_t format, std::int32_t subframe
 std::optional<std::string> checkRequest(const Request& r) {
     const auto format = static_cast<MessageFormat>(r.format);
     const DecodeOutcome got = Testing::decodeOutcome(format, r.subframe, r.page, r.hex);
-
-    // Digits first, then emptiness, then the format, then the length.
+    // Digits first, then emptiness, then the format, then the length; else a listing.
+    DecodeOutcome expected{Kind::Text, got.text};
     const std::string_view digits = trimmed(r.hex);
     const auto bad =
         std::find_if(digits.begin(), digits.end(), [](char c) { return hexValue(c) < 0; });
+    const Testing::SupportedFormat* row = Testing::findSupported(format);
     if (bad != digits.end()) {
-        const std::string_view prefix = "Can't parse symbol as hex digit: ";
-        if (got.kind != Kind::DecodingError || !got.text.starts_with(prefix)) {
-            return describe(r, got, "expected DecodingError for a bad digit");
-        }
         // The whole character is named: its first byte and at most three more after it.
         // what() is a C string, so a NUL character leaves the name empty.
-        const std::string_view named = std::string_view(got.text).substr(prefix.size());
+        constexpr std::string_view kPrefix = "Can't parse symbol as hex digit: ";
+        const std::string_view named = std::string_view(got.text).substr(
+            got.text.starts_with(kPrefix) ? kPrefix.size() : 0, std::string_view::npos);
         const std::string_view from = digits.substr(static_cast<std::size_t>(bad - digits.begin()));
         const bool right = named.empty() ? *bad == '\0'
                                          : named.size() <= 4 && from.starts_with(named) &&
                                                (named.size() == 1 || (*bad & 0x80) != 0);
-        return right ? std::nullopt
-                     : std::optional(describe(r, got, "the bad character is not the one named"));
+        expected = {Kind::DecodingError,
+                    right ? got.text : std::string(kPrefix) + "(" + *bad + ")"};
+    } else if (digits.empty()) {
+        expected = {Kind::OutOfRange, "Decode: hex string is empty"};
+    } else if (row == nullptr) {
+        expected = {Kind::DecodingError, "Decoding is not supported yet for this message format"};
+    } else if (row->road == Testing::Road::Subframe &&
+               digits.size() > Testing::kMaxSubframeDigits) {
+        expected = {Kind::LengthError, "Decode: subframe data is longer than 38 bytes"};
     }
-    if (digits.empty()) {
-        return expectError(r, got, Kind::OutOfRange, "Decode: hex string is empty");
+    if (got == expected) {
+        return std::nullopt;
     }
-    const Testing::SupportedFormat* row = Testing::findSupported(format);
-    if (row == nullptr) {
-        return expectError(r, got, Kind::DecodingError,
-                           "Decoding is not supported yet for this message format");
-    }
-    if (row->road == Testing::Road::Subframe && digits.size() > Testing::kMaxSubframeDigits) {
-        return expectError(r, got, Kind::LengthError,
-                           "Decode: subframe data is longer than 38 bytes");
-    }
-    return checkListing(r, got, *row);
+    std::ostringstream text;
+    text << "expected " << expected << " (format " << r.format << ", subframe " << r.subframe
+         << ", page " << r.page << ", " << r.hex.size() << " characters; got " << got << ")";
+    return text.str();
 }
 
 std::vector<std::vector<std::uint8_t>> makeSeeds(std::istream& batchFile) {

@@ -40,9 +40,8 @@ struct Request {
                                                     std::int32_t page, std::string_view hex,
                                                     bool asBits);
 
-// Decodes the request and checks the outcome against the documented behaviour: which
-// error, with which message, for which input, and the shape of a listing. Returns what
-// is wrong, or nothing.
+// Decodes the request: a listing, or the documented error with its message for the
+// input. Returns what is wrong, or nothing.
 [[nodiscard]] std::optional<std::string> checkRequest(const Request& request);
 
 // Every message of a batch file (lines "SAT FORMAT SUBFRAME PAGE HEX") and the sample

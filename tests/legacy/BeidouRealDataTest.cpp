@@ -1,8 +1,7 @@
-// Real BeiDou D1 and D2 subframes against field values decoded by independent
-// decoders. The ground truth is in SI units and whole values; the listing prints
-// semicircles ("pi"), nanoseconds for the group delays, raw counts for almanac toa and
-// D2 toe, a signed toc, and fields split over two pages as two raw parts. Each check
-// converts the ground truth, never the output.
+// Real BeiDou D1 and D2 subframes against independent decoders. The listing prints
+// semicircles, nanoseconds for the group delays, raw counts for almanac toa and D2 toe,
+// a signed toc, and fields split over two pages as two raw parts: each check converts
+// the ground truth.
 
 #include <gtest/gtest.h>
 
@@ -15,28 +14,20 @@
 
 namespace {
 
+using namespace ZeltNavMsg::Testing;
 using ZeltNavMsg::MessageFormat;
-using ZeltNavMsg::Testing::LegacyLine;
-using ZeltNavMsg::Testing::RealMessage;
 
 constexpr double kPi = 3.1415926535898;
 
-using Lines = std::multimap<std::string, LegacyLine>;
-
-void expectValue(const Lines& lines, const std::string& name, double truth,
-                 const std::string& where) {
-    const auto line = ZeltNavMsg::Testing::onlyLine(lines, name);
-    ASSERT_TRUE(line) << where << " " << name;
-    EXPECT_TRUE(ZeltNavMsg::Testing::sameToSixDigits(std::stod(line->value), truth))
-        << where << " " << name << ": printed " << line->value << ", truth " << truth;
-}
-
-void expectInteger(const Lines& lines, const std::string& name, long long truth,
-                   const std::string& where) {
-    const auto line = ZeltNavMsg::Testing::onlyLine(lines, name);
-    ASSERT_TRUE(line) << where << " " << name;
-    EXPECT_EQ(line->value, std::to_string(truth)) << where << " " << name;
-}
+const auto kSame = namePairs(
+    "alpha0 alpha0 alpha1 alpha1 alpha2 alpha2 alpha3 alpha3 beta0 beta0 beta1 beta1 "
+    "beta2 beta2 beta3 beta3 a0 a0 a1 a1 a2 a2 Cuc cuc Cus cus Cic cic Cis cis Crc crc "
+    "Crs crs e e sqrtA sqrta A0UTC a0utc A1UTC a1utc");
+const auto kSemicircles =
+    namePairs("dn deltan M0 m0 OMEGA0 omega0 OMEGAdot omegadot omega w IDOT idot");
+const auto kIntegers = namePairs(
+    "WN wn SatH1 sath1 AODC iodc URAI urai AODE iode FraID fraid Pnum pnum SOW sow "
+    "WNLSF wnlsf DN dn dtLS deltatls dtLSF deltatlsf");
 
 // A D2 value split over two pages of subframe 1: its "_1" line (previous page) holds
 // the most significant bits, its "_2" line the `lowBits` least significant ones.
@@ -58,7 +49,7 @@ class Checker {
   public:
     explicit Checker(bool d2) : d2_(d2) {}
 
-    void check(const RealMessage& m, const Lines& lines) {
+    void check(const RealMessage& m, const Listing& lines) {
         for (const auto& [name, line] : lines) {
             if (name.ends_with("_1")) {
                 firstParts_[m.satellite + " " + name] = line.value;
@@ -70,31 +61,17 @@ class Checker {
     }
 
   private:
-    void checkField(const RealMessage& m, const Lines& lines, const std::string& key,
+    void checkField(const RealMessage& m, const Listing& lines, const std::string& key,
                     const std::string& text) {
         const std::string& w = m.where;
         const double v = std::atof(text.c_str());
-        static const std::map<std::string, std::string> same = {
-            {"alpha0", "alpha0"}, {"alpha1", "alpha1"}, {"alpha2", "alpha2"}, {"alpha3", "alpha3"},
-            {"beta0", "beta0"},   {"beta1", "beta1"},   {"beta2", "beta2"},   {"beta3", "beta3"},
-            {"a0", "a0"},         {"a1", "a1"},         {"a2", "a2"},         {"Cuc", "cuc"},
-            {"Cus", "cus"},       {"Cic", "cic"},       {"Cis", "cis"},       {"Crc", "crc"},
-            {"Crs", "crs"},       {"e", "e"},           {"sqrtA", "sqrta"},   {"A0UTC", "a0utc"},
-            {"A1UTC", "a1utc"}};
-        static const std::map<std::string, std::string> semicircles = {
-            {"dn", "deltan"},         {"M0", "m0"},   {"OMEGA0", "omega0"},
-            {"OMEGAdot", "omegadot"}, {"omega", "w"}, {"IDOT", "idot"}};
-        static const std::map<std::string, std::string> integers = {
-            {"WN", "wn"},       {"SatH1", "sath1"}, {"AODC", "iodc"},     {"URAI", "urai"},
-            {"AODE", "iode"},   {"FraID", "fraid"}, {"Pnum", "pnum"},     {"SOW", "sow"},
-            {"WNLSF", "wnlsf"}, {"DN", "dn"},       {"dtLS", "deltatls"}, {"dtLSF", "deltatlsf"}};
         const bool almanac = m.truth.contains("almSV");
-        if (same.contains(key)) {
-            expectValue(lines, same.at(key), v, w);
-        } else if (semicircles.contains(key)) {
-            expectValue(lines, semicircles.at(key), v / kPi, w);
-        } else if (integers.contains(key)) {
-            expectInteger(lines, integers.at(key), std::llround(v), w);
+        if (kSame.contains(key)) {
+            expectValue(lines, kSame.at(key), v, w);
+        } else if (kSemicircles.contains(key)) {
+            expectValue(lines, kSemicircles.at(key), v / kPi, w);
+        } else if (kIntegers.contains(key)) {
+            expectInteger(lines, kIntegers.at(key), std::llround(v), w);
         } else if (kSplitFields.contains(key)) {
             checkSplit(m, lines, kSplitFields.at(key), v);
         } else if (key == "TGD1" || key == "TGD2") {
@@ -126,7 +103,7 @@ class Checker {
         }
     }
 
-    void checkSplit(const RealMessage& m, const Lines& lines, const SplitField& split,
+    void checkSplit(const RealMessage& m, const Listing& lines, const SplitField& split,
                     double truth) {
         const double inUnits = split.semicircles ? truth / kPi : truth;
         const long long raw = std::llround(std::ldexp(inUnits, -split.scaleExponent));
@@ -147,28 +124,23 @@ class Checker {
     std::map<std::string, std::string> firstParts_;  // "satellite name_1" -> latest value
 };
 
-int checkFile(const char* file, MessageFormat format, const char* formatName) {
-    Checker checker(format == MessageFormat::BeidouD2);
-    int count = 0;
-    for (const RealMessage& m : ZeltNavMsg::Testing::loadRealData(file)) {
-        EXPECT_EQ(m.format, formatName) << m.where;
-        EXPECT_EQ(m.hex.size(), 75U) << m.where;
-        testing::internal::CaptureStderr();
-        const std::string text =
-            ZeltNavMsg::NavMessageDecoder::Decode(format, m.subframe, m.page, m.hex);
-        EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << m.where;
-        checker.check(m, ZeltNavMsg::Testing::parseLegacyListing(text));
-        ++count;
+TEST(BeidouRealData, SubframesMatchIndependentDecoders) {
+    for (const auto& [format, file, count] :
+         {std::tuple{MessageFormat::BeidouD1, "beidou_d1.tsv", 84},
+          {MessageFormat::BeidouD2, "beidou_d2.tsv", 148}}) {
+        Checker checker(format == MessageFormat::BeidouD2);
+        int checked = 0;
+        for (const RealMessage& m : loadRealData(file)) {
+            ASSERT_EQ(m.hex.size(), 75U) << m.where;
+            testing::internal::CaptureStderr();
+            const std::string text =
+                ZeltNavMsg::NavMessageDecoder::Decode(format, m.subframe, m.page, m.hex);
+            EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << m.where;
+            checker.check(m, parseLegacyListing(text));
+            ++checked;
+        }
+        EXPECT_EQ(checked, count) << file;
     }
-    return count;
-}
-
-TEST(BeidouRealData, D1SubframesMatchIndependentDecoders) {
-    EXPECT_EQ(checkFile("beidou_d1.tsv", MessageFormat::BeidouD1, "BeidouD1"), 84);
-}
-
-TEST(BeidouRealData, D2SubframesMatchIndependentDecoders) {
-    EXPECT_EQ(checkFile("beidou_d2.tsv", MessageFormat::BeidouD2, "BeidouD2"), 148);
 }
 
 }  // namespace

@@ -1,8 +1,7 @@
-// The legacy listing prints from a plan digested at compile time. Its text is held
-// against the plain snprintf listing (tests/support/NaiveLegacyListing), which
-// follows the rules of the text with nothing precomputed: for every real message,
-// for random bits under every subframe and page, for short records, and for tables
-// of the unusual entries the built-in tables do not have.
+// The legacy listing, printed from a plan digested at compile time, against the plain
+// snprintf listing (tests/support/NaiveLegacyListing): for every real message, random
+// bits under every subframe and page, short records, and the unusual entries that the
+// built-in tables do not have.
 
 #include <gtest/gtest.h>
 
@@ -10,6 +9,9 @@
 #include <random>
 #include <string>
 
+#include "api/HexInput.h"
+#include "legacy/BeidouD1Interface.h"
+#include "legacy/BeidouD2Interface.h"
 #include "legacy/GpsL1caInterface.h"
 #include "legacy/ListingPlan.h"
 #include "legacy/QzssL1caInterface.h"
@@ -33,6 +35,8 @@ struct Signal {
 const Signal kSignals[] = {
     {MessageFormat::GpsLNav, &GPS_L1CA_Interface, "gps_lnav.tsv"},
     {MessageFormat::QzssLNav, &QZSS_L1CA_Interface, "qzss_lnav.tsv"},
+    {MessageFormat::BeidouD1, &BEIDOU_D1_Interface, "beidou_d1.tsv"},
+    {MessageFormat::BeidouD2, &BEIDOU_D2_Interface, "beidou_d2.tsv"},
 };
 
 std::string randomHex(std::mt19937& random, std::size_t digits) {
@@ -43,20 +47,20 @@ std::string randomHex(std::mt19937& random, std::size_t digits) {
     return hex;
 }
 
-// Real messages under their own page and others (the page decides the layout, so
-// the same bits print other entries), and random bits under every subframe and page.
+// Real messages under their own page and others (the page decides the layout), and
+// random bits under every subframe and page of every layout map.
 TEST(ListingPlan, RealAndRandomSubframes) {
     std::mt19937 random(21);
     for (const Signal& signal : kSignals) {
         for (const auto& m : ZeltNavMsg::Testing::loadRealData(signal.dataFile)) {
-            for (const std::int32_t page : {m.page, 0, 13, 17, 18, 25}) {
+            for (const std::int32_t page : {m.page, 0, 13, 17, 18, 25, 35, 101}) {
                 ASSERT_EQ(NavMessageDecoder::Decode(signal.format, m.subframe, page, m.hex),
                           naiveLegacyListing(*signal.table, m.subframe, page, m.hex))
                     << m.where << " page " << page;
             }
         }
         for (std::int32_t subframe = -1; subframe <= 6; ++subframe) {
-            for (std::int32_t page = -1; page <= 31; ++page) {
+            for (std::int32_t page = -1; page <= 122; ++page) {
                 const std::string hex = randomHex(random, 75);
                 ASSERT_EQ(NavMessageDecoder::Decode(signal.format, subframe, page, hex),
                           naiveLegacyListing(*signal.table, subframe, page, hex))
@@ -164,10 +168,7 @@ std::string describeToString(const SubframeIf& signal, std::int32_t subframe, st
     sf.page = page;
     sf.layoutId = signal.GetLayoutId(sf);
     sf.bitCount = static_cast<std::int32_t>(hex.size() * 4);
-    for (std::size_t i = 0; i < hex.size(); ++i) {
-        const int digit = std::stoi(hex.substr(i, 1), nullptr, 16);
-        sf.data[i / 2] = static_cast<std::uint8_t>(sf.data[i / 2] | (digit << (i % 2 ? 0 : 4)));
-    }
+    ZeltNavMsg::Detail::hexDigitsToBytes(hex, sf.data, sizeof sf.data);
     ZeltNavMsg::Text::TextBuffer text("\r\n");
     signal.describe(text, sf, SubframeIf::DecodingMode::DecodeWords);
     return text.str();

@@ -1,6 +1,5 @@
-// Eight threads decode a mix of every supported format at once, errors included, and
-// each result must equal the one the same input gave on a single thread. The ThreadSanitizer
-// preset runs this too, so a data race fails it even where the texts come out right.
+// Eight threads decode a mix of every supported format, errors included, and each result
+// must equal the single-threaded one; under the tsan preset a data race fails it too.
 // ZELTNAVMSG_STRESS_SECONDS sets how long the threads run (default 2).
 
 #include <gtest/gtest.h>
@@ -32,9 +31,8 @@ struct Request {
     DecodeOutcome expected;  // from a single thread
 };
 
-// Every real message of every supported format, and for each format inputs that fail
-// in each documented way. Inputs that make the word writer report are left out: they
-// would only flood the test log.
+// Every real message of every supported format, and inputs that fail in each documented
+// way (none that make the word writer report: they would only flood the log).
 std::vector<Request> requests() {
     std::vector<Request> all;
     for (const auto& row : kSupportedFormats) {
@@ -55,12 +53,6 @@ std::vector<Request> requests() {
     return all;
 }
 
-double stressSeconds() {
-    const char* text = std::getenv("ZELTNAVMSG_STRESS_SECONDS");
-    const double seconds = text != nullptr ? std::atof(text) : 0.0;
-    return seconds > 0.0 ? seconds : 2.0;
-}
-
 TEST(ConcurrentDecode, EightThreadsGetTheSingleThreadedResults) {
     const std::vector<Request> all = requests();
     ASSERT_GT(all.size(), 100U);
@@ -71,32 +63,28 @@ TEST(ConcurrentDecode, EightThreadsGetTheSingleThreadedResults) {
     ASSERT_GT(listings, all.size() / 2) << "the mix should be mostly real messages";
 
     constexpr int kThreads = 8;
-    const auto deadline =
-        std::chrono::steady_clock::now() + std::chrono::duration<double>(stressSeconds());
-    std::atomic<long> decodes{0};
+    const char* seconds = std::getenv("ZELTNAVMSG_STRESS_SECONDS");
+    const auto deadline = std::chrono::steady_clock::now() +
+                          std::chrono::duration<double>(seconds ? std::atof(seconds) : 2.0);
     std::atomic<long> mismatches{0};
     std::mutex firstMismatchLock;
     std::string firstMismatch;
-    std::vector<int> passes(kThreads, 0);
 
     std::vector<std::thread> threads;
     for (int t = 0; t < kThreads; ++t) {
         threads.emplace_back([&, t] {
-            // Each thread starts elsewhere in the mix and runs whole passes until the
-            // deadline, at least one.
+            // Whole passes from its own starting point until the deadline, at least one.
             std::size_t i = static_cast<std::size_t>(t) * all.size() / kThreads;
             do {
                 for (std::size_t n = 0; n < all.size(); ++n, i = (i + 1) % all.size()) {
                     const Request& r = all[i];
                     const DecodeOutcome got = decodeOutcome(r.format, r.subframe, r.page, r.hex);
-                    decodes.fetch_add(1, std::memory_order_relaxed);
                     if (got != r.expected && mismatches.fetch_add(1) == 0) {
                         const std::lock_guard lock(firstMismatchLock);
                         firstMismatch = "thread " + std::to_string(t) + ", request " +
                                         std::to_string(i) + ": " + testing::PrintToString(got);
                     }
                 }
-                ++passes[static_cast<std::size_t>(t)];
             } while (std::chrono::steady_clock::now() < deadline);
         });
     }
@@ -105,10 +93,6 @@ TEST(ConcurrentDecode, EightThreadsGetTheSingleThreadedResults) {
     }
 
     EXPECT_EQ(mismatches.load(), 0) << firstMismatch;
-    for (int t = 0; t < kThreads; ++t) {
-        EXPECT_GE(passes[static_cast<std::size_t>(t)], 1) << "thread " << t;
-    }
-    RecordProperty("decodes", std::to_string(decodes.load()));
 }
 
 }  // namespace

@@ -47,13 +47,6 @@ inline std::ostream& operator<<(std::ostream& out, const DecodeOutcome& outcome)
     return out;
 }
 
-inline DecodeOutcome textOutcome(std::string text) {
-    return {DecodeOutcome::Kind::Text, std::move(text)};
-}
-inline DecodeOutcome errorOutcome(DecodeOutcome::Kind kind, std::string message) {
-    return {kind, std::move(message)};
-}
-
 // Decodes `hex` from a heap copy of exactly its size, so that AddressSanitizer reports
 // any read past the caller's bytes (a std::string would have its NUL and spare capacity
 // behind the last character).
@@ -63,17 +56,18 @@ inline DecodeOutcome decodeOutcome(MessageFormat format, std::int32_t subframe, 
     std::copy(hex.begin(), hex.end(), exact.get());
     const std::string_view input(exact.get(), hex.size());
     try {
-        return textOutcome(NavMessageDecoder::Decode(format, subframe, page, input));
+        return {DecodeOutcome::Kind::Text,
+                NavMessageDecoder::Decode(format, subframe, page, input)};
     } catch (const DecodingError& e) {
-        return errorOutcome(DecodeOutcome::Kind::DecodingError, e.what());
+        return {DecodeOutcome::Kind::DecodingError, e.what()};
     } catch (const std::out_of_range& e) {
-        return errorOutcome(DecodeOutcome::Kind::OutOfRange, e.what());
+        return {DecodeOutcome::Kind::OutOfRange, e.what()};
     } catch (const std::length_error& e) {
-        return errorOutcome(DecodeOutcome::Kind::LengthError, e.what());
+        return {DecodeOutcome::Kind::LengthError, e.what()};
     } catch (const std::exception& e) {
-        return errorOutcome(DecodeOutcome::Kind::OtherError, e.what());
+        return {DecodeOutcome::Kind::OtherError, e.what()};
     } catch (...) {
-        return errorOutcome(DecodeOutcome::Kind::OtherError, "(not a std::exception)");
+        return {DecodeOutcome::Kind::OtherError, "(not a std::exception)"};
     }
 }
 

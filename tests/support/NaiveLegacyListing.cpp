@@ -34,15 +34,21 @@ unsigned bitAt(const subframe_t& sf, int bit) {
     return (sf.data[index / 8] >> (7 - index % 8)) & 1U;
 }
 
+// One piece formatted by snprintf into a 64-byte scratch buffer, appended as a C string.
+template <class... Args>
+void print(std::string& out, const char* format, Args... args) {
+    char piece[64];
+    if (std::snprintf(piece, sizeof piece, format, args...) > 0) {
+        out += piece;  // a NUL character ends it
+    }
+}
+
 std::string describeFields(const Legacy::SubframeIf& signal, const subframe_t& sf, bool rawPass) {
     std::string out;
-    char piece[64];
     int group = 0;
     for (const SubframeFieldInfo& field : signal.fields()) {
-        if (field.name == nullptr) {
-            continue;
-        }
-        if (((field.flags & 0x04U) != 0) != rawPass || (field.flags & 0x22U) != 0) {
+        if (field.name == nullptr || ((field.flags & 0x04U) != 0) != rawPass ||
+            (field.flags & 0x22U) != 0) {
             continue;
         }
         if (field.layoutId != 0 && !(field.subframe == sf.subframe && field.page == 0) &&
@@ -53,7 +59,6 @@ std::string describeFields(const Legacy::SubframeIf& signal, const subframe_t& s
             out += "\n";
             group = field.group;
         }
-
         int width = 0;
         for (int length : field.segmentLength) {
             width += length;
@@ -70,53 +75,24 @@ std::string describeFields(const Legacy::SubframeIf& signal, const subframe_t& s
             extended = static_cast<std::int32_t>(value | ~((1U << width) - 1U));
         }
 
-        if (std::snprintf(piece, sizeof piece, "%20s:", field.name) > 0) {
-            out += piece;
-        }
+        print(out, "%20s:", field.name);
         if ((field.flags & 0x10U) == 0 && width > 1) {
-            if (std::snprintf(piece, sizeof piece, " 0x%0*lX", (width + 3) / 4,
-                              static_cast<unsigned long>(value)) > 0) {
-                out += piece;
-            }
+            print(out, " 0x%0*lX", (width + 3) / 4, static_cast<unsigned long>(value));
         }
         const bool integerShown = (field.flags & 0x08U) == 0 || width == 1;
-        switch (field.valueType) {
-            case 0:
-                if (integerShown) {
-                    if (std::snprintf(piece, sizeof piece, " %lu",
-                                      static_cast<unsigned long>(value)) > 0) {
-                        out += piece;
-                    }
-                }
-                if ((field.flags & 0x40U) != 0 && width <= 8) {
-                    if (std::snprintf(piece, sizeof piece, " '%c'",
-                                      static_cast<int>(value & 0xFFU)) > 0) {
-                        out += piece;  // as a C string: a NUL character ends it
-                    }
-                }
-                break;
-            case 1:
-                if (integerShown) {
-                    if (std::snprintf(piece, sizeof piece, " %ld", static_cast<long>(extended)) >
-                        0) {
-                        out += piece;
-                    }
-                }
-                break;
-            case 2:
-                if (std::snprintf(piece, sizeof piece, " %g",
-                                  static_cast<double>(value) * field.scale) > 0) {
-                    out += piece;
-                }
-                break;
-            case 3:
-                if (std::snprintf(piece, sizeof piece, " %g",
-                                  static_cast<double>(extended) * field.scale) > 0) {
-                    out += piece;
-                }
-                break;
-            default:
-                break;
+        if (field.valueType == 0 && integerShown) {
+            print(out, " %lu", static_cast<unsigned long>(value));
+        }
+        if (field.valueType == 0 && (field.flags & 0x40U) != 0 && width <= 8) {
+            print(out, " '%c'", static_cast<int>(value & 0xFFU));
+        }
+        if (field.valueType == 1 && integerShown) {
+            print(out, " %ld", static_cast<long>(extended));
+        }
+        if (field.valueType == 2 || field.valueType == 3) {
+            const double raw =
+                field.valueType == 2 ? static_cast<double>(value) : static_cast<double>(extended);
+            print(out, " %g", raw * field.scale);
         }
         if (field.units != nullptr) {
             out += " ";
@@ -146,13 +122,10 @@ std::string naiveLegacyListing(const Legacy::SubframeIf& signal, std::int32_t su
     sf.bitCount = static_cast<std::int32_t>(hex.size() * 4);
     std::memcpy(sf.data, bytes.data(), bytes.size());
 
-    char piece[64];
     std::string text;
-    std::snprintf(piece, sizeof piece, "Subframe: %d", static_cast<int>(sf.subframe));
-    text += piece;
+    print(text, "Subframe: %d", static_cast<int>(sf.subframe));
     if (sf.page > 0) {
-        std::snprintf(piece, sizeof piece, " Page: %d", static_cast<int>(sf.page));
-        text += piece;
+        print(text, " Page: %d", static_cast<int>(sf.page));
     }
     text += "\n";
     const std::string rawPass = describeFields(signal, sf, true);

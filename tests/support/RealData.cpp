@@ -10,39 +10,23 @@ namespace ZeltNavMsg::Testing {
 
 namespace {
 
-std::vector<std::string> splitTabs(const std::string& line) {
-    std::vector<std::string> cells;
-    std::stringstream in(line);
-    for (std::string cell; std::getline(in, cell, '\t');) {
-        cells.push_back(cell);
-    }
-    return cells;
+std::ifstream openData(const std::string& path) {
+    std::ifstream file(std::string(ZELTNAVMSG_TEST_DATA_DIR) + "/" + path);
+    EXPECT_TRUE(file.good()) << "cannot read " << path;
+    return file;
 }
 
 std::string trim(std::string_view s) {
     const auto first = s.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    const auto last = s.find_last_not_of(' ');
-    return std::string(s.substr(first, last - first + 1));
+    return first == std::string_view::npos
+               ? std::string()
+               : std::string(s.substr(first, s.find_last_not_of(' ') - first + 1));
 }
 
 }  // namespace
 
-std::optional<double> RealMessage::number(const std::string& field) const {
-    const auto it = truth.find(field);
-    if (it == truth.end()) {
-        return std::nullopt;
-    }
-    return std::stod(it->second);
-}
-
 std::vector<RealMessage> loadRealData(std::string_view fileName) {
-    const std::string path =
-        std::string(ZELTNAVMSG_TEST_DATA_DIR) + "/real-data/" + std::string(fileName);
-    std::ifstream file(path);
-    EXPECT_TRUE(file.good()) << "cannot read " << path;
+    std::ifstream file = openData("real-data/" + std::string(fileName));
     std::vector<RealMessage> messages;
     int lineNumber = 0;
     for (std::string line; std::getline(file, line);) {
@@ -50,14 +34,17 @@ std::vector<RealMessage> loadRealData(std::string_view fileName) {
         if (line.empty() || line.front() == '#') {
             continue;
         }
-        const std::vector<std::string> cells = splitTabs(line);
-        if (cells.size() < 5) {
-            ADD_FAILURE() << path << ":" << lineNumber << ": too few columns";
-            continue;
+        std::vector<std::string> cells;
+        std::stringstream in(line);
+        for (std::string cell; std::getline(in, cell, '\t');) {
+            cells.push_back(cell);
         }
         RealMessage m;
-        m.lineNumber = lineNumber;
         m.where = std::string(fileName) + ":" + std::to_string(lineNumber);
+        if (cells.size() < 5) {
+            ADD_FAILURE() << m.where << ": too few columns";
+            continue;
+        }
         m.format = cells[0];
         m.satellite = cells[1];
         m.subframe = std::stoi(cells[2]);
@@ -74,6 +61,83 @@ std::vector<RealMessage> loadRealData(std::string_view fileName) {
     return messages;
 }
 
+Listing parseLegacyListing(std::string_view text) {
+    Listing lines;
+    for (const std::string& line : splitLines(text)) {
+        const auto colon = line.find(':');
+        if (colon == std::string::npos || line.starts_with("Subframe:")) {
+            continue;
+        }
+        ListedValue parsed;
+        std::stringstream words(line.substr(colon + 1));
+        words >> parsed.value;
+        if (parsed.value.starts_with("0x")) {
+            parsed.hex = parsed.value.substr(2);
+            parsed.value.clear();
+            words >> parsed.value;
+        }
+        std::getline(words, parsed.units);
+        parsed.units = trim(parsed.units);
+        lines.emplace(trim(line.substr(0, colon)), parsed);
+    }
+    return lines;
+}
+
+Listing parseTreeListing(std::string_view text) {
+    Listing lines;
+    std::vector<std::string> headings;
+    std::stringstream in{std::string(text)};
+    for (std::string line; std::getline(in, line);) {
+        if (line.ends_with('\r')) {
+            line.pop_back();
+        }
+        const std::size_t level = line.find_first_not_of('\t');
+        if (level == std::string::npos) {
+            continue;
+        }
+        const std::string body = line.substr(level);
+        headings.resize(level);
+        const auto colon = body.find(": ");
+        if (colon == std::string::npos && !body.ends_with(":")) {
+            headings.push_back(body);
+            continue;
+        }
+        std::string path;
+        for (std::size_t i = 1; i < headings.size(); ++i) {  // the frame's own name is left out
+            path += headings[i] + "/";
+        }
+        ListedValue parsed;
+        std::string rest = colon == std::string::npos ? "" : body.substr(colon + 2);
+        if (const auto at = rest.find(", Raw hex:"); at != std::string::npos) {
+            parsed.hex = rest.substr(at + 10);
+            rest.resize(at);
+        }
+        const auto blank = rest.find(' ');
+        parsed.value = rest.substr(0, blank);
+        parsed.units = blank == std::string::npos ? "" : rest.substr(blank + 1);
+        lines.emplace(path + body.substr(0, colon), parsed);
+    }
+    return lines;
+}
+
+std::map<std::string, std::string> namePairs(std::string_view words, const std::string& prefix) {
+    std::map<std::string, std::string> pairs;
+    std::stringstream in{std::string(words)};
+    for (std::string key, name; in >> key >> name;) {
+        pairs[key] = prefix + name;
+    }
+    return pairs;
+}
+
+const ListedValue* onlyLine(const Listing& lines, const std::string& key,
+                            const std::string& where) {
+    if (lines.count(key) != 1) {
+        ADD_FAILURE() << where << ": expected one line " << key << ", found " << lines.count(key);
+        return nullptr;
+    }
+    return &lines.find(key)->second;
+}
+
 bool sameToSixDigits(double printed, double truth) {
     const double magnitude = std::max(std::fabs(printed), std::fabs(truth));
     if (magnitude == 0.0) {
@@ -83,46 +147,23 @@ bool sameToSixDigits(double printed, double truth) {
     return std::fabs(printed - truth) <= 0.5 * unit * 1.0001;
 }
 
-std::multimap<std::string, LegacyLine> parseLegacyListing(std::string_view text) {
-    std::multimap<std::string, LegacyLine> lines;
-    for (const std::string& line : splitLines(text)) {
-        const auto colon = line.find(':');
-        if (colon == std::string::npos || line.starts_with("Subframe:")) {
-            continue;
-        }
-        LegacyLine parsed;
-        std::string rest = line.substr(colon + 1);
-        std::stringstream words(rest);
-        std::string word;
-        words >> word;
-        if (word.starts_with("0x")) {
-            parsed.hex = word.substr(2);
-            word.clear();
-            words >> word;
-        }
-        parsed.value = word;
-        std::getline(words, parsed.units);
-        parsed.units = trim(parsed.units);
-        lines.emplace(trim(line.substr(0, colon)), parsed);
+void expectValue(const Listing& lines, const std::string& key, double truth,
+                 const std::string& where) {
+    if (const ListedValue* line = onlyLine(lines, key, where)) {
+        EXPECT_TRUE(sameToSixDigits(std::stod(line->value), truth))
+            << where << " " << key << ": printed " << line->value << ", truth " << truth;
     }
-    return lines;
 }
 
-std::optional<LegacyLine> onlyLine(const std::multimap<std::string, LegacyLine>& lines,
-                                   const std::string& name) {
-    const auto count = lines.count(name);
-    if (count != 1) {
-        ADD_FAILURE() << "expected one line '" << name << "', found " << count;
-        return std::nullopt;
+void expectInteger(const Listing& lines, const std::string& key, long long truth,
+                   const std::string& where) {
+    if (const ListedValue* line = onlyLine(lines, key, where)) {
+        EXPECT_EQ(line->value, std::to_string(truth)) << where << " " << key;
     }
-    return lines.find(name)->second;
 }
 
 ExpectedListing loadExpectedListing(std::string_view relativePath) {
-    const std::string path =
-        std::string(ZELTNAVMSG_TEST_DATA_DIR) + "/listings/" + std::string(relativePath);
-    std::ifstream file(path);
-    EXPECT_TRUE(file.good()) << "cannot read " << path;
+    std::ifstream file = openData("listings/" + std::string(relativePath));
     ExpectedListing listing;
     std::getline(file, listing.hex);
     for (std::string line; std::getline(file, line);) {
@@ -133,19 +174,20 @@ ExpectedListing loadExpectedListing(std::string_view relativePath) {
 
 std::vector<std::string> splitLines(std::string_view text) {
     std::vector<std::string> lines;
-    std::size_t start = 0;
-    while (start <= text.size()) {
-        const auto end = text.find("\r\n", start);
-        if (end == std::string_view::npos) {
-            if (start < text.size()) {
-                lines.emplace_back(text.substr(start));
-            }
-            break;
-        }
+    for (std::size_t start = 0; start < text.size();) {
+        const auto end = std::min(text.find("\r\n", start), text.size());
         lines.emplace_back(text.substr(start, end - start));
         start = end + 2;
     }
     return lines;
+}
+
+void expectSameLines(const std::vector<std::string>& got,
+                     const std::vector<std::string>& expected) {
+    for (std::size_t i = 0; i < std::min(got.size(), expected.size()); ++i) {
+        ASSERT_EQ(got[i], expected[i]) << "line " << i + 1;
+    }
+    EXPECT_EQ(got.size(), expected.size());
 }
 
 }  // namespace ZeltNavMsg::Testing

@@ -3,61 +3,63 @@
 
 #include <cstdint>
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-// Real broadcast messages logged by receivers, with field values decoded by
-// independent decoders (tests/data/real-data/*.tsv). Columns, TAB-separated:
-// format, satellite, subframe, page, hex, then field=value[ unit] pairs.
-
 namespace ZeltNavMsg::Testing {
 
+// A real broadcast logged by a receiver, with field values decoded by independent
+// decoders: a row of tests/data/real-data/*.tsv (TAB-separated format, satellite,
+// subframe, page, hex, then field=value[ unit] pairs).
 struct RealMessage {
-    int lineNumber = 0;
     std::string format;
     std::string satellite;
     std::int32_t subframe = 0;
     std::int32_t page = 0;
     std::string hex;
     std::map<std::string, std::string> truth;  // field -> value text, unit included
-
-    // The numeric value of a ground-truth field (its unit dropped), if present.
-    [[nodiscard]] std::optional<double> number(const std::string& field) const;
-    // "file:line" for failure messages.
-    std::string where;
+    std::string where;                         // "file:line" for failure messages
 };
-
-// Every message of `fileName` (e.g. "gps_lnav.tsv").
 std::vector<RealMessage> loadRealData(std::string_view fileName);
 
-// Whether `printed` (a "%g" text) shows `truth` to six significant digits: within
-// half a unit of the sixth digit, with a little room for the decimal scale constants.
-bool sameToSixDigits(double printed, double truth);
-
-// Fields of a legacy listing, keyed by name: the text after "name:" split into the
-// optional "0x.." raw part, the value word and the units.
-struct LegacyLine {
-    std::string hex;    // without "0x"; empty when not printed
-    std::string value;  // first word after the hex part; empty when not printed
-    std::string units;  // the rest of the line
+// The value lines of a listing: keyed by name (legacy listings) or by the headings
+// below the top one and the name, joined by "/" ("Subframe 2/Ephemeris/M0").
+struct ListedValue {
+    std::string value;  // the first word of the value (a raw-hex-only line's digits)
+    std::string units;  // the rest of the value text
+    std::string hex;    // the raw hex digits, without "0x"; empty when not printed
 };
-std::multimap<std::string, LegacyLine> parseLegacyListing(std::string_view text);
+using Listing = std::multimap<std::string, ListedValue>;
+Listing parseLegacyListing(std::string_view text);
+Listing parseTreeListing(std::string_view text);
 
-// The value of the only line named `name`; fails the test when absent or repeated.
-std::optional<LegacyLine> onlyLine(const std::multimap<std::string, LegacyLine>& lines,
-                                   const std::string& name);
+// "a x b y" as {a: prefix + x, b: prefix + y}: ground-truth names and listing keys.
+std::map<std::string, std::string> namePairs(std::string_view words,
+                                             const std::string& prefix = "");
 
-// An expected-listing file of tests/data/listings: its input and its lines.
+// The only line at `key`, or a failure naming `where`.
+const ListedValue* onlyLine(const Listing& lines, const std::string& key, const std::string& where);
+// Whether a "%g" text shows `truth` to six significant digits (half a unit of the sixth
+// digit, with a little room for the decimal scale constants).
+bool sameToSixDigits(double printed, double truth);
+// The only line at `key` shows `truth` to six digits, or exactly as an integer.
+void expectValue(const Listing& lines, const std::string& key, double truth,
+                 const std::string& where);
+void expectInteger(const Listing& lines, const std::string& key, long long truth,
+                   const std::string& where);
+
+// A file of tests/data/listings: the input on its first line, then the expected lines.
 struct ExpectedListing {
     std::string hex;
     std::vector<std::string> lines;
 };
 ExpectedListing loadExpectedListing(std::string_view relativePath);
 
-// Splits a text at "\r\n" (the library's line end) into lines.
+// A text split at the library's "\r\n" line ends.
 std::vector<std::string> splitLines(std::string_view text);
+// Line by line, so that a failure names the first line that differs; then the counts.
+void expectSameLines(const std::vector<std::string>& got, const std::vector<std::string>& expected);
 
 }  // namespace ZeltNavMsg::Testing
 

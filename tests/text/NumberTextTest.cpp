@@ -1,6 +1,6 @@
-// The number writers against the C library's printf, which defines the text they
-// must produce: "%g" for writeG (correct rounding, ties to even, the choice between
-// fixed and exponent form, trailing zeros) and "%0*llX" for writeHex.
+// The number writers against the C library's printf, which defines their text: "%g" for
+// writeG (rounding, ties to even, fixed or exponent form, trailing zeros), "%0*llX" for
+// writeHex.
 
 #include <gtest/gtest.h>
 
@@ -38,57 +38,22 @@ std::string viaPrintf(double v) {
     } while (false)
 
 TEST(WriteG, EdgesOfEachForm) {
+    // clang-format off
     const double cases[] = {
-        0.0,
-        -0.0,
-        1.0,
-        -1.0,
-        0.5,
-        10.0,
-        100000.0,
-        999999.0,
-        1e6,
-        -1e6,
-        1234567.0,
+        0.0, -0.0, 1.0, -1.0, 0.5, 10.0, 100000.0, 999999.0, 1e6, -1e6, 1234567.0,
         // The fixed form runs from 1e-4 up to 999999.5 (which rounds to 1e+06).
-        1e-4,
-        std::nextafter(1e-4, 0.0),
-        9.99999e-5,
-        9.999995e-5,
-        9.9999949999e-5,
-        999999.5,
-        std::nextafter(999999.5, 0.0),
-        std::nextafter(999999.5, 1e7),
-        999999.4999999,
-        99999.95,
-        99999.949999,
-        0.000999999,
-        9.5,
-        99.99995,
+        1e-4, std::nextafter(1e-4, 0.0), 9.99999e-5, 9.999995e-5, 9.9999949999e-5, 999999.5,
+        std::nextafter(999999.5, 0.0), std::nextafter(999999.5, 1e7), 999999.4999999, 99999.95,
+        99999.949999, 0.000999999, 9.5, 99.99995,
         // Exact ties at the seventh digit round to even.
-        123456.5,
-        123457.5,
-        0.1015625,
-        0.1171875,
-        1.0000005e6,
-        2.5e-5,
-        0.0078125,
+        123456.5, 123457.5, 0.1015625, 0.1171875, 1.0000005e6, 2.5e-5, 0.0078125,
         // Long exponents, the ends of the exact path, and what it leaves to the library.
-        1e-22,
-        1e-21,
-        9.99999e-23,
-        1e-100,
-        1e100,
-        1.5e-300,
-        DBL_MAX,
-        DBL_MIN,
-        -DBL_MIN,
-        DBL_MIN / 4,
-        std::numeric_limits<double>::denorm_min(),
-        std::numeric_limits<double>::infinity(),
-        -std::numeric_limits<double>::infinity(),
+        1e-22, 1e-21, 9.99999e-23, 1e-100, 1e100, 1.5e-300, DBL_MAX, DBL_MIN, -DBL_MIN,
+        DBL_MIN / 4, std::numeric_limits<double>::denorm_min(),
+        std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
         std::numeric_limits<double>::quiet_NaN(),
     };
+    // clang-format on
     for (const double v : cases) {
         EXPECT_LIKE_PRINTF(v);
     }
@@ -148,29 +113,19 @@ TEST(WriteG, ScaledTableValues) {
 }
 
 TEST(WriteHex, PadsToTheDigitCountAndNeverCuts) {
-    struct Case {
-        std::uint64_t value;
-        int digits;
-    };
-    const Case cases[] = {{0, 1},
-                          {0, 4},
-                          {0xABC, 1},
-                          {0xABC, 3},
-                          {0xABC, 5},
-                          {0x10, 1},
-                          {0xF, 1},
-                          {0x1FFFFFFF, 8},
-                          {0xFFFFFFFF, 2},
-                          {~std::uint64_t{0}, 1},
-                          {0x8000000000000000, 20}};
-    for (const Case& c : cases) {
-        char expected[32];
-        const int n = std::snprintf(expected, sizeof expected, "%0*llX", c.digits,
-                                    static_cast<unsigned long long>(c.value));
-        char text[32];
-        EXPECT_EQ(std::string(text, writeHex(text, c.value, c.digits)),
-                  std::string(expected, static_cast<std::size_t>(n)))
-            << c.value << " in " << c.digits;
+    for (const std::uint64_t value :
+         {std::uint64_t{0}, std::uint64_t{0xF}, std::uint64_t{0x10}, std::uint64_t{0xABC},
+          std::uint64_t{0x1FFFFFFF}, std::uint64_t{0xFFFFFFFF}, ~std::uint64_t{0},
+          std::uint64_t{1} << 63}) {
+        for (const int digits : {1, 2, 3, 4, 5, 8, 16, 17, 20}) {
+            char expected[32];
+            const int n = std::snprintf(expected, sizeof expected, "%0*llX", digits,
+                                        static_cast<unsigned long long>(value));
+            char text[32];
+            EXPECT_EQ(std::string(text, writeHex(text, value, digits)),
+                      std::string(expected, static_cast<std::size_t>(n)))
+                << value << " in " << digits;
+        }
     }
 }
 
