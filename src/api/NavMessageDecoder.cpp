@@ -23,7 +23,7 @@ namespace ZeltNavMsg {
 // NOLINTBEGIN(bugprone-throw-keyword-missing)
 DecodingError::DecodingError() : message_("") {}
 DecodingError::DecodingError(const std::string& message) : message_(message) {}
-DecodingError::DecodingError(const char* message) : message_(message) {}
+DecodingError::DecodingError(const char* message) : message_(message != nullptr ? message : "") {}
 // NOLINTEND(bugprone-throw-keyword-missing)
 
 const char* DecodingError::what() const noexcept {

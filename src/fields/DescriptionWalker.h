@@ -44,7 +44,9 @@ bool walkStruct(const BitStructDef& def, ConstBitBuffer buffer, std::uint32_t le
     bool written = false;
     if (!transparent) {
         sink.heading(def, level);
-        written = true;
+        // A heading is its level's TABs and the name: at level 0 an unnamed structure
+        // writes nothing, and its first member needs no line break before it.
+        written = level > 0 || !def.name().empty();
     }
     const std::uint32_t childLevel = transparent ? level : level + 1;
     bool activeKnown = false;
