@@ -284,10 +284,10 @@ int runFormats() {
         "names are matched exactly (case-sensitive).\n\n");
     for (const char letter : ZeltNavMsg::Names::kSystemLetters) {
         std::string text(1, letter);
-        text.append("  ").append(systemName(letter)).append("\n    signals: ");
+        text.append("  ").append(systemName(letter)).append("\n    signals:");
         for (const auto& row : ZeltNavMsg::Names::kSignalNames) {
             if (row.letter == letter) {
-                text.append(row.name).append(" ");
+                text.append(" ").append(row.name);
             }
         }
         text.append("\n    formats:");
