@@ -1,5 +1,5 @@
 // The legacy listing, printed from a plan digested at compile time, against the plain
-// snprintf listing (tests/support/NaiveLegacyListing): for every real message, random
+// snprintf listing (bench/baseline/NaiveLegacyListing): for every real message, random
 // bits under every subframe and page, short records, and the unusual entries that the
 // built-in tables do not have.
 
@@ -10,13 +10,13 @@
 #include <string>
 
 #include "api/HexInput.h"
+#include "baseline/NaiveLegacyListing.h"
 #include "legacy/BeidouD1Interface.h"
 #include "legacy/BeidouD2Interface.h"
 #include "legacy/GpsL1caInterface.h"
 #include "legacy/ListingPlan.h"
 #include "legacy/QzssL1caInterface.h"
 #include "legacy/SubframeCoderGpsLNav.h"
-#include "support/NaiveLegacyListing.h"
 #include "support/RealData.h"
 #include "zeltnavmsg/NavMessageDecoder.h"
 
@@ -24,7 +24,7 @@ namespace {
 
 using ZeltNavMsg::MessageFormat;
 using ZeltNavMsg::NavMessageDecoder;
-using ZeltNavMsg::Testing::naiveLegacyListing;
+using ZeltNavMsg::Baseline::naiveLegacyListing;
 using namespace ZeltNavMsg::Legacy;
 
 struct Signal {

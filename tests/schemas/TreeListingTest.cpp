@@ -9,12 +9,12 @@
 #include <string>
 #include <vector>
 
+#include "baseline/NaiveTreeListing.h"
 #include "fields/BitFieldValueDef.h"
 #include "schemas/beidou_cnav1/FrameDef.h"
 #include "schemas/beidou_cnav2/FrameDef.h"
 #include "schemas/gps_cnav2/FrameDef.h"
 #include "schemas/irnss/SubframeDef.h"
-#include "support/NaiveTreeListing.h"
 #include "support/RealData.h"
 #include "support/SubframeBits.h"
 #include "support/TreeChecks.h"
@@ -24,6 +24,7 @@ namespace {
 
 using namespace ZeltNavMsg;
 using namespace ZeltNavMsg::Testing;
+using ZeltNavMsg::Baseline::naiveTreeListing;
 
 struct TreeFormat {
     MessageFormat format;
