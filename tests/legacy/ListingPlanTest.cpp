@@ -1,7 +1,8 @@
 // The legacy listing, printed from a plan digested at compile time, against the plain
 // snprintf listing (bench/baseline/NaiveLegacyListing): for every real message, random
 // bits under every subframe and page, short records, and the unusual entries that the
-// built-in tables do not have.
+// built-in tables do not have. Entry selection, the text page's characters (NUL and
+// line feed included) and the passes follow from these.
 
 #include <gtest/gtest.h>
 
@@ -47,41 +48,33 @@ std::string randomHex(std::mt19937& random, std::size_t digits) {
     return hex;
 }
 
-// Real messages under their own page and others (the page decides the layout), and
-// random bits under every subframe and page of every layout map.
-TEST(ListingPlan, RealAndRandomSubframes) {
+// Real messages under their own page and others (the page decides the layout), random
+// bits under every subframe and page of every layout map, and records of every length:
+// fewer than 75 digits leave words that the decoder cannot write back (reported on
+// standard error) and fields that read zeros; 76 digits carry four bits past word 10.
+TEST(ListingPlan, RealRandomShortAndLongSubframes) {
     std::mt19937 random(21);
+    const auto expectPlain = [](const Signal& signal, std::int32_t subframe, std::int32_t page,
+                                const std::string& hex) {
+        ASSERT_EQ(NavMessageDecoder::Decode(signal.format, subframe, page, hex),
+                  naiveLegacyListing(*signal.table, subframe, page, hex))
+            << "subframe " << subframe << " page " << page << " " << hex;
+    };
+    testing::internal::CaptureStderr();
     for (const Signal& signal : kSignals) {
         for (const auto& m : ZeltNavMsg::Testing::loadRealData(signal.dataFile)) {
             for (const std::int32_t page : {m.page, 0, 13, 17, 18, 25, 35, 101}) {
-                ASSERT_EQ(NavMessageDecoder::Decode(signal.format, m.subframe, page, m.hex),
-                          naiveLegacyListing(*signal.table, m.subframe, page, m.hex))
-                    << m.where << " page " << page;
+                expectPlain(signal, m.subframe, page, m.hex);
             }
         }
         for (std::int32_t subframe = -1; subframe <= 6; ++subframe) {
             for (std::int32_t page = -1; page <= 122; ++page) {
-                const std::string hex = randomHex(random, 75);
-                ASSERT_EQ(NavMessageDecoder::Decode(signal.format, subframe, page, hex),
-                          naiveLegacyListing(*signal.table, subframe, page, hex))
-                    << "subframe " << subframe << " page " << page << " " << hex;
+                expectPlain(signal, subframe, page, randomHex(random, 75));
             }
         }
-    }
-}
-
-// Fewer than 75 digits leave words that the decoder cannot write back (reported on
-// standard error) and fields that read zeros; 76 digits carry four bits past word 10.
-TEST(ListingPlan, ShortAndLongRecords) {
-    std::mt19937 random(22);
-    testing::internal::CaptureStderr();
-    for (const Signal& signal : kSignals) {
         for (std::size_t digits = 1; digits <= 76; ++digits) {
             for (const std::int32_t subframe : {1, 2, 3, 4, 5}) {
-                const std::string hex = randomHex(random, digits);
-                ASSERT_EQ(NavMessageDecoder::Decode(signal.format, subframe, 17, hex),
-                          naiveLegacyListing(*signal.table, subframe, 17, hex))
-                    << digits << " digits, subframe " << subframe;
+                expectPlain(signal, subframe, 17, randomHex(random, digits));
             }
         }
     }
@@ -174,38 +167,27 @@ std::string describeToString(const SubframeIf& signal, std::int32_t subframe, st
     return text.str();
 }
 
-TEST(ListingPlan, UnusualEntriesPrintAsWithoutPlan) {
-    const TestInterface planned(kOddTable, &kOddListing);
-    const TestInterface unplanned(kOddTable, nullptr);
+// The unusual entries, and passes of which one or both print nothing (the empty line
+// between them only when both print), with and without a plan.
+TEST(ListingPlan, UnusualTablesPrintAsWithoutPlan) {
+    const TestInterface odd(kOddTable, &kOddListing);
+    const TestInterface oddUnplanned(kOddTable, nullptr);
+    const TestInterface passes(kPassTable, &kPassListing);
+    const TestInterface passesUnplanned(kPassTable, nullptr);
     std::mt19937 random(23);
     for (int trial = 0; trial < 300; ++trial) {
         std::string hex = randomHex(random, 76);
         if (trial % 3 == 0) {  // the quoted characters: a NUL, then a line feed
             hex.replace(52, 2, trial % 2 == 0 ? "00" : "0A");
         }
-        for (const std::int32_t subframe : {3, 4}) {
-            const std::string expected = naiveLegacyListing(planned, subframe, 0, hex);
-            ASSERT_EQ(describeToString(planned, subframe, 0, hex), expected)
-                << "planned, subframe " << subframe << " " << hex;
-            ASSERT_EQ(describeToString(unplanned, subframe, 0, hex), expected)
-                << "unplanned, subframe " << subframe << " " << hex;
+        for (const std::int32_t subframe : {1, 2, 3, 4}) {
+            for (const TestInterface* table : {&odd, &oddUnplanned, &passes, &passesUnplanned}) {
+                ASSERT_EQ(describeToString(*table, subframe, 0, hex),
+                          naiveLegacyListing(*table, subframe, 0, hex))
+                    << (table == &odd || table == &passes ? "planned" : "unplanned")
+                    << ", subframe " << subframe << " " << hex;
+            }
         }
-    }
-}
-
-// The empty line between the passes only when both print something.
-TEST(ListingPlan, EmptyPasses) {
-    const TestInterface planned(kPassTable, &kPassListing);
-    const TestInterface unplanned(kPassTable, nullptr);
-    const std::string hex(75, 'C');
-    EXPECT_EQ(describeToString(planned, 1, 0, hex),
-              "Subframe: 1\r\n\r\n            raw_word: 0x33333333\r\n");
-    EXPECT_EQ(describeToString(planned, 2, 0, hex),
-              "Subframe: 2\r\n             decoded: 0xCC 204\r\n");
-    EXPECT_EQ(describeToString(planned, 3, 0, hex), "Subframe: 3\r\n");
-    for (const std::int32_t subframe : {1, 2, 3}) {
-        EXPECT_EQ(describeToString(unplanned, subframe, 0, hex),
-                  describeToString(planned, subframe, 0, hex));
     }
 }
 
