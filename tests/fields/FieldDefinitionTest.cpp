@@ -1,4 +1,6 @@
-// Construction of definitions: modifiers, absolute ranges, order, checks and arrays.
+// Definitions: modifiers, absolute ranges, order, checks and arrays (array names and
+// positions: the GPS CNAV-2 and BeiDou expected listings), and reading and writing the
+// value kinds (their text: the listing tests).
 
 #include <gtest/gtest.h>
 
@@ -6,7 +8,9 @@
 #include <stdexcept>
 #include <string>
 
+#include "bits/BinArray.h"
 #include "schemas/SchemaTypes.h"
+#include "support/Thrown.h"
 
 namespace {
 
@@ -14,37 +18,28 @@ using namespace ZeltNavMsg;
 using namespace ZeltNavMsg::Schema;
 using Init = BitRange::InitializationType;
 
-// Modifiers no schema uses but the framework honours.
-class OrderModifier final : public BitFieldDef::ParamModifier {
+// Modifiers no schema uses but the framework honours: one parameter set to a value.
+template <auto Param, class Value>
+class Setting final : public BitFieldDef::ParamModifier {
   public:
-    explicit OrderModifier(int order) : order_(order) {}
-    void apply(FieldParams& p) const override { p.order = order_; }
+    explicit Setting(Value value) : value_(value) {}
+    void apply(FieldParams& p) const override { p.*Param = value_; }
 
   private:
-    int order_;
+    Value value_;
 };
-class NumberingModifier final : public BitFieldDef::ParamModifier {
-  public:
-    explicit NumberingModifier(int scheme) : scheme_(scheme) {}
-    void apply(FieldParams& p) const override { p.bitsNumbering = scheme_; }
-
-  private:
-    int scheme_;
-};
+using OrderModifier = Setting<&FieldParams::order, int>;
+using NumberingModifier = Setting<&FieldParams::bitsNumbering, int>;
+using DefaultValueModifier = Setting<&FieldParams::defaultValue, double>;
 
 BitStructDef root(int bitsCount = 100) {
     return {nullptr, "root", bits(0, bitsCount), {}};
 }
 
-TEST(FieldDefinition, RangesBecomeAbsoluteThroughNesting) {
+// Nesting itself is what every message tree's listing shows; a structure of several
+// ranges counts from the lowest first bit, whatever their order.
+TEST(FieldDefinition, RangesCountFromTheParentsLowestBit) {
     BitStructDef frame(nullptr, "frame", bits(0, 100), {});
-    BitStructDef block(&frame, "block", bits(38, 40), {});
-    const Unsigned field(&block, "field", {BitRange(Init::FirstAndLastBit, 10, 31)});
-    EXPECT_EQ(field.ranges()[0], BitRange(Init::FirstAndLastBit, 48, 69));
-    EXPECT_EQ(field.totalBitsCount(), 22);
-    EXPECT_EQ(field.parent(), &block);
-
-    // The base is the lowest first bit of the parent's ranges, whatever their order.
     BitStructDef split(
         &frame, "split",
         {BitRange(Init::FirstAndLastBit, 60, 69), BitRange(Init::FirstAndLastBit, 20, 29)}, {});
@@ -52,26 +47,16 @@ TEST(FieldDefinition, RangesBecomeAbsoluteThroughNesting) {
     EXPECT_EQ(inSplit.ranges()[0], BitRange(Init::FirstAndLastBit, 20, 23));
 }
 
-TEST(FieldDefinition, ModifierDefaultsAndAccumulation) {
+// Flags accumulate; for units, scale and container the last modifier wins.
+TEST(FieldDefinition, ModifiersAccumulateOrOverride) {
     BitStructDef parent = root();
-    const Unsigned plain(&parent, "plain", bits(0, 8));
-    EXPECT_EQ(plain.scaleFactor(), 1.0);
-    EXPECT_EQ(plain.defaultValue(), 0.0);
-    EXPECT_EQ(plain.containerId(), -1);
-    EXPECT_EQ(plain.flags(), 0U);
-    EXPECT_EQ(plain.units(), "");
-
     const Unsigned marked(&parent, "marked", bits(8, 8),
                           {flag(Hidden), unit("s"), pow2(3), container(4), flag(NoDefaults),
                            unit("m"), times(5), container(7), ParamsNotModified()});
-    EXPECT_EQ(marked.flags(), 9U);   // flags accumulate
-    EXPECT_EQ(marked.units(), "m");  // the rest: the last one wins
+    EXPECT_EQ(marked.flags(), 9U);
+    EXPECT_EQ(marked.units(), "m");
     EXPECT_EQ(marked.scaleFactor(), 5.0);
     EXPECT_EQ(marked.containerId(), 7);
-
-    EXPECT_EQ(ScaleFactorModifier(-31).scaleFactor(), 4.656612873077393e-10);
-    EXPECT_EQ(ScaleFactorModifier(-44, kInterfacePi).scaleFactor(),
-              3.1415926535898 / 17592186044416.0);
 }
 
 TEST(FieldDefinition, ChildrenSortedByOrderStably) {
@@ -154,17 +139,6 @@ TEST(FieldDefinition, DeclarationChecks) {
     }
 }
 
-TEST(FieldDefinition, ArrayElementsAreNamedAndLaidEndToEnd) {
-    BitStructDef frame = root(300);
-    const BitFieldArrayDef<Unsigned, 63> prns(&frame, "SV configuration", bits(10, 189), "PRN-", 3);
-    ASSERT_EQ(prns.children().size(), 63U);
-    EXPECT_EQ(prns[0].name(), "PRN-1");
-    EXPECT_EQ(prns[62].name(), "PRN-63");
-    EXPECT_EQ(prns[62].ranges()[0], BitRange(Init::FirstAndLastBit, 10 + 186, 10 + 188));
-    EXPECT_EQ(prns.children()[62], &prns[62]);
-    EXPECT_EQ(prns.fieldKind(), FieldKind::Array);
-}
-
 // An element type that refuses to be built as its fourth element.
 int liveElements = 0;
 class Fragile : public Unsigned {
@@ -192,6 +166,93 @@ TEST(FieldDefinition, ArrayIsBuiltAllOrNothing) {
         EXPECT_EQ(liveElements, 3);
     }
     EXPECT_EQ(liveElements, 0);
+}
+
+struct Fixture {
+    BitStructDef frame{nullptr, "frame", bits(0, 64), {}};
+    BinArray<64> bits64;
+    Fixture() { bits64.fill(0); }
+    BitBuffer buffer() { return bits64.buffer(); }
+};
+
+TEST(ValueField, IntegersThroughTheirMultiplier) {
+    Fixture f;
+    const Unsigned plain(&f.frame, "plain", bits(2, 10));
+    const Unsigned doubled(&f.frame, "doubled", bits(2, 10), {times(2.0)});
+    const Unsigned fraction(&f.frame, "fraction", bits(2, 10), {times(0.75)});
+    plain.writeRaw(f.buffer(), 0x3FF);
+    EXPECT_EQ(doubled.valueToString(f.buffer()), "2046");
+    EXPECT_EQ(fraction.read(f.buffer()), 0U);  // a multiplier below 1 truncates to 0
+    EXPECT_THROW(fraction.write(f.buffer(), 5), std::runtime_error);
+    doubled.write(f.buffer(), 11);  // 11 / 2 = 5
+    EXPECT_EQ(plain.read(f.buffer()), 5U);
+
+    const Signed s(&f.frame, "s", bits(14, 4));
+    const Signed scaled(&f.frame, "scaled", bits(14, 4), {times(4)});
+    s.writeRaw(f.buffer(), 0b1110);
+    EXPECT_EQ(s.valueToString(f.buffer()), "-2");
+    scaled.write(f.buffer(), -3);  // -3 / 4 = 0, sign of the value: two's complement 0
+    EXPECT_EQ(s.read(f.buffer()), 0);
+    scaled.write(f.buffer(), -9);  // -2
+    EXPECT_EQ(scaled.read(f.buffer()), -8);
+    const Signed wide(&f.frame, "wide", bits(0, 64));
+    wide.writeRaw(f.buffer(), 0x8000000000000000ULL);
+    EXPECT_EQ(wide.valueToString(f.buffer()), "-9223372036854775808");
+}
+
+TEST(ValueField, WriteDoubleRoundsHalfAwayFromZero) {
+    const struct {
+        double value;
+        NumberFormat format;
+        std::uint64_t code;
+    } cases[] = {
+        {-0.5, NumberFormat::TwosComplementNumberFormat, 0xFF},
+        {-0.5, NumberFormat::SignMagnitudeNumberFormat, 0x81},
+        {-0.5, NumberFormat::TwosComplementNumberFormatAlt, 0xFF},
+        {2.5, NumberFormat::TwosComplementNumberFormat, 0x03},
+        {-2.4, NumberFormat::SignMagnitudeNumberFormat, 0x82},
+        {255.5, NumberFormat::UnsignedNumberFormat, 0x00},  // 256 masked to 8 bits
+        {254.5, NumberFormat::UnsignedNumberFormatAlt, 0xFF},
+    };
+    for (const auto& c : cases) {
+        Fixture f;
+        const Real d(&f.frame, "d", bits(8, 8), c.format);
+        d.writeDouble(f.buffer(), c.value);
+        EXPECT_EQ(d.readRaw(f.buffer()), c.code)
+            << c.value << " format " << static_cast<int>(c.format);
+        EXPECT_EQ(f.bits64.data()[0], 0);  // neighbours untouched
+        EXPECT_EQ(f.bits64.data()[2], 0);
+    }
+    Fixture f;
+    const Real d(&f.frame, "e", bits(0, 8), kUnsignedReal);
+    EXPECT_EQ(Testing::thrownMessage<std::runtime_error>([&] { d.writeDouble(f.buffer(), -1.0); }),
+              "BitFieldDoubleDef::writeDouble: field 'e' is unsigned, but value is negative");
+    const Real odd(&f.frame, "odd", bits(8, 8), static_cast<NumberFormat>(9));
+    EXPECT_THROW(odd.writeDouble(f.buffer(), -1.0), std::runtime_error);
+}
+
+TEST(ValueField, WriteDefaults) {
+    Fixture f;
+    f.bits64.fill(0xFF);
+    BitBuffer buffer = f.buffer();
+    BitStructDef block(&f.frame, "block", bits(8, 40), {});
+    const Unsigned a(&block, "a", bits(0, 8), {DefaultValueModifier(200.9)});
+    const Real b(&block, "b", bits(8, 8), kSignedReal, {pow2(-2), DefaultValueModifier(-1.25)});
+    const Signed c(&block, "c", bits(16, 8), {DefaultValueModifier(-3.7)});
+    const Flag d(&block, "d", bits(24, 1), {DefaultValueModifier(0.5)});
+    const Flag zero(&block, "zero", bits(25, 1));
+    BitStructDef frozen(&block, "frozen", bits(26, 6), {flag(NoDefaults)});
+    const Unsigned e(&frozen, "e", bits(0, 6));
+    // Variants are all written, in order: the later one wins where they overlap.
+    const Unsigned v1(&block, "v1", bits(32, 8), {container(1), DefaultValueModifier(0x11)});
+    const Unsigned v2(&block, "v2", bits(36, 4), {container(2), DefaultValueModifier(0x2)});
+    block.writeDefault(buffer);
+    EXPECT_EQ(f.bits64.data()[0], 0xFF);
+    EXPECT_EQ(f.bits64.data()[1], 200);   // truncated
+    EXPECT_EQ(f.bits64.data()[2], 0xFB);  // -1.25 / 0.25 = -5
+    EXPECT_EQ(f.bits64.data()[3], 0xFD);  // -3
+    EXPECT_EQ(f.bits64.data()[4], 0xBF);  // d = 1, zero = 0, frozen untouched
+    EXPECT_EQ(f.bits64.data()[5], 0x12);
 }
 
 }  // namespace
