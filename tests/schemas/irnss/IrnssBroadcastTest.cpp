@@ -34,7 +34,9 @@ const struct {
     {5, "8B19E88397036703FF1C0049AB3FC009B10AF84FE7E3773FFD7FD6D8F5FDDC41800000000", 1},
 };
 
-TEST(IrnssBroadcast, LiveSubframes1SharedFields) {
+// The values the four share, and every raw value published for PRN 7: the raw hex as a
+// two's-complement number of the field's width, and the value it prints.
+TEST(IrnssBroadcast, LiveSubframes1) {
     for (const auto& sf : kLive) {
         const std::string where = "PRN " + std::to_string(sf.prn);
         const Listing lines = decode(sf.hex);
@@ -52,11 +54,6 @@ TEST(IrnssBroadcast, LiveSubframes1SharedFields) {
             expectInteger(lines, key, value, where);
         }
     }
-}
-
-// Every raw value published for PRN 7: the raw hex as a two's-complement number of the
-// field's width, and the value it prints.
-TEST(IrnssBroadcast, LiveSubframe1RawValues) {
     const struct {
         const char* name;
         int width;
