@@ -25,31 +25,35 @@ std::string trim(std::string_view s) {
 
 }  // namespace
 
-std::vector<RealMessage> loadRealData(std::string_view fileName) {
-    std::ifstream file = openData("real-data/" + std::string(fileName));
-    std::vector<RealMessage> messages;
+std::vector<DataRow> loadTable(std::string_view relativePath) {
+    std::ifstream file = openData(std::string(relativePath));
+    std::vector<DataRow> rows;
     int lineNumber = 0;
     for (std::string line; std::getline(file, line);) {
         ++lineNumber;
         if (line.empty() || line.front() == '#') {
             continue;
         }
-        std::vector<std::string> cells;
+        DataRow row{{}, std::string(relativePath) + ":" + std::to_string(lineNumber)};
         std::stringstream in(line);
         for (std::string cell; std::getline(in, cell, '\t');) {
-            cells.push_back(cell);
+            row.cells.push_back(cell);
         }
-        RealMessage m;
-        m.where = std::string(fileName) + ":" + std::to_string(lineNumber);
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+std::vector<RealMessage> loadRealData(std::string_view fileName) {
+    std::vector<RealMessage> messages;
+    for (const DataRow& row : loadTable("real-data/" + std::string(fileName))) {
+        const auto& cells = row.cells;
         if (cells.size() < 5) {
-            ADD_FAILURE() << m.where << ": too few columns";
+            ADD_FAILURE() << row.where << ": too few columns";
             continue;
         }
-        m.format = cells[0];
-        m.satellite = cells[1];
-        m.subframe = std::stoi(cells[2]);
-        m.page = std::stoi(cells[3]);
-        m.hex = cells[4];
+        RealMessage m{cells[0], cells[1], std::stoi(cells[2]), std::stoi(cells[3]), cells[4], {},
+                      row.where};
         for (std::size_t i = 5; i < cells.size(); ++i) {
             const auto eq = cells[i].find('=');
             if (eq != std::string::npos) {

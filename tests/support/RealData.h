@@ -9,6 +9,15 @@
 
 namespace ZeltNavMsg::Testing {
 
+// The rows of a TAB-separated file under tests/data, blank lines and lines starting with
+// '#' skipped; `where` is "file:line" for failure messages. A blank inside a cell is
+// part of it.
+struct DataRow {
+    std::vector<std::string> cells;
+    std::string where;
+};
+std::vector<DataRow> loadTable(std::string_view relativePath);
+
 // A real broadcast logged by a receiver, with field values decoded by independent
 // decoders: a row of tests/data/real-data/*.tsv (TAB-separated format, satellite,
 // subframe, page, hex, then field=value[ unit] pairs).
