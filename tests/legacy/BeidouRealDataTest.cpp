@@ -136,7 +136,7 @@ TEST(BeidouRealData, SubframesMatchIndependentDecoders) {
             const std::string text =
                 ZeltNavMsg::NavMessageDecoder::Decode(format, m.subframe, m.page, m.hex);
             EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << m.where;
-            checker.check(m, parseLegacyListing(text));
+            checker.check(m, parseListing(text));
             ++checked;
         }
         EXPECT_EQ(checked, count) << file;

@@ -102,7 +102,7 @@ TEST(LNavRealData, SubframesMatchIndependentDecoders) {
             ASSERT_EQ(m.hex.size(), 75U) << m.where;
             const std::string text =
                 ZeltNavMsg::NavMessageDecoder::Decode(format, m.subframe, m.page, m.hex);
-            ++counts[checkTruth(m, parseLegacyListing(text)) ? 0 : 1];
+            ++counts[checkTruth(m, parseListing(text)) ? 0 : 1];
         }
         EXPECT_EQ(counts[0], checked) << file;
         EXPECT_EQ(counts[1], otherLayout) << file;

@@ -53,7 +53,7 @@ void expectTruth(const RealMessage& m, const Listing& lines, const Paths& paths,
 }
 
 Listing decode(MessageFormat format, const std::string& hex) {
-    return parseTreeListing(ZeltNavMsg::NavMessageDecoder::Decode(format, 0, 0, hex));
+    return parseListing(ZeltNavMsg::NavMessageDecoder::Decode(format, 0, 0, hex));
 }
 
 TEST(BeidouCNavRealData, CNav1FramesMatchIndependentDecoders) {

@@ -31,7 +31,7 @@ TEST(GpsCNav2RealData, FramesMatchIndependentDecoders) {
     int messages = 0;
     for (const RealMessage& m : loadRealData("gps_cnav2.tsv")) {
         ASSERT_EQ(m.hex.size(), 221U) << m.where;
-        const Listing lines = parseTreeListing(ZeltNavMsg::NavMessageDecoder::Decode(
+        const Listing lines = parseListing(ZeltNavMsg::NavMessageDecoder::Decode(
             ZeltNavMsg::MessageFormat::GpsCNav2, 0, 0, m.hex));
         for (const auto& [key, text] : m.truth) {
             double v = std::atof(text.c_str());

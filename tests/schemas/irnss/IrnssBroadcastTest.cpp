@@ -18,7 +18,7 @@ using namespace ZeltNavMsg::Testing;
 const std::string kData = "Subframe specific data/";
 
 Listing decode(const std::string& hex) {
-    return parseTreeListing(
+    return parseListing(
         ZeltNavMsg::NavMessageDecoder::Decode(ZeltNavMsg::MessageFormat::Irnss, 0, 0, hex));
 }
 
