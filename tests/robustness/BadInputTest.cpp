@@ -120,11 +120,11 @@ TEST_P(BadInput, SurroundingWhiteSpaceAndLetterCaseChangeNothing) {
 
 // One digit, 15 digits (odd counts, far too short) and, for frames, a cut in the middle
 // and one digit short read as the same bits padded with zeros. A subframe word that does
-// not fit is left as received (and reported, naming the layout and the lengths) while the
-// padded one is decoded, so the subframe cuts are where decoding leaves padded words
-// alone: "8" sets only the first bit; the 15 digits end with a whole word whose last bit
-// is 0, after which a zero word stays zero (LNAV inverts only after a 1, BCH keeps a zero
-// codeword).
+// not fit is left as received (and reported, on standard error only, naming the layout
+// and the lengths) while the padded one is decoded, so the subframe cuts are where
+// decoding leaves padded words alone: "8" sets only the first bit; the 15 digits end with
+// a whole word whose last bit is 0, after which a zero word stays zero (LNAV inverts only
+// after a 1, BCH keeps a zero codeword).
 TEST_P(BadInput, ShortInputReadsAsZeroPadded) {
     // 15 digits are 60 bits, two whole subframe words; bit 60 is cleared.
     std::string tenth = sample().substr(0, 15);
@@ -139,9 +139,11 @@ TEST_P(BadInput, ShortInputReadsAsZeroPadded) {
         const DecodeOutcome padded =
             decode(0, 0, cut + std::string(sample().size() - cut.size(), '0'));
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << cut;
+        testing::internal::CaptureStdout();
         testing::internal::CaptureStderr();
         const DecodeOutcome outcome = decode(0, 0, cut);
         const std::string err = testing::internal::GetCapturedStderr();
+        EXPECT_EQ(testing::internal::GetCapturedStdout(), "") << cut;
         ASSERT_EQ(outcome.kind, Kind::Text) << cut << ": " << outcome;
         EXPECT_EQ(outcome, padded) << cut;
         EXPECT_EQ(err, isSubframe() ? wordReports(cut.size()) : "") << cut;
