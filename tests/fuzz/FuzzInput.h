@@ -26,41 +26,33 @@
 
 namespace ZeltNavMsg::Fuzz {
 
-struct Request {
-    std::int32_t format = 0;
-    std::int32_t subframe = 0;
-    std::int32_t page = 0;
-    std::string hex;
-};
-
-inline Request parseInput(const std::uint8_t* data, std::size_t size) {
+// Decodes what the input stands for and checks the outcome: digits first, then
+// emptiness, then the format, then the length; else a listing. Returns what is wrong,
+// or nothing.
+inline std::optional<std::string> checkInput(const std::uint8_t* data, std::size_t size) {
     const auto number = [&](std::size_t i) -> std::int32_t {
         const auto b = static_cast<std::int8_t>(i < size ? data[i] : 0);
         return b == INT8_MAX ? INT32_MAX : b == INT8_MIN ? INT32_MIN : b;
     };
-    Request r{number(0), number(1), number(2), {}};
-    const bool asDigits = size > 3 && (data[3] & 1U) != 0;
+    const std::int32_t formatValue = number(0);
+    const std::int32_t subframe = number(1);
+    const std::int32_t page = number(2);
+    std::string hex;
     for (std::size_t i = 4; i < size; ++i) {
-        if (asDigits) {
-            r.hex += "0123456789abcdef"[data[i] >> 4];
-            r.hex += "0123456789abcdef"[data[i] & 0xFU];
+        if ((data[3] & 1U) != 0) {
+            hex += "0123456789abcdef"[data[i] >> 4];
+            hex += "0123456789abcdef"[data[i] & 0xFU];
         } else {
-            r.hex += static_cast<char>(data[i]);
+            hex += static_cast<char>(data[i]);
         }
     }
-    return r;
-}
-
-// Digits first, then emptiness, then the format, then the length; else a listing.
-// Returns what is wrong, or nothing.
-inline std::optional<std::string> checkRequest(const Request& r) {
     using Testing::DecodeOutcome;
     using Kind = DecodeOutcome::Kind;
-    const auto format = static_cast<MessageFormat>(r.format);
-    const DecodeOutcome got = Testing::decodeOutcome(format, r.subframe, r.page, r.hex);
+    const auto format = static_cast<MessageFormat>(formatValue);
+    const DecodeOutcome got = Testing::decodeOutcome(format, subframe, page, hex);
     DecodeOutcome expected{Kind::Text, got.text};
     constexpr std::string_view kBlanks = " \t\n\v\f\r";
-    std::string_view digits = r.hex;
+    std::string_view digits = hex;
     digits.remove_prefix(std::min(digits.size(), digits.find_first_not_of(kBlanks)));
     digits = digits.substr(0, digits.find_last_not_of(kBlanks) + 1);
     const auto bad = std::find_if_not(digits.begin(), digits.end(), [](char c) {
@@ -91,8 +83,8 @@ inline std::optional<std::string> checkRequest(const Request& r) {
         return std::nullopt;
     }
     std::ostringstream text;
-    text << "expected " << expected << " (format " << r.format << ", subframe " << r.subframe
-         << ", page " << r.page << ", " << r.hex.size() << " characters; got " << got << ")";
+    text << "expected " << expected << " (format " << formatValue << ", subframe " << subframe
+         << ", page " << page << ", " << hex.size() << " characters; got " << got << ")";
     return text.str();
 }
 

@@ -29,8 +29,8 @@ TEST(FuzzReplay, SeedsAndKeptFindingsPassTheChecks) {
     }
     testing::internal::CaptureStderr();  // short subframes make the word writer report
     for (const auto& [name, bytes] : inputs) {
-        const auto finding = ZeltNavMsg::Fuzz::checkRequest(ZeltNavMsg::Fuzz::parseInput(
-            reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()));
+        const auto finding = ZeltNavMsg::Fuzz::checkInput(
+            reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
         EXPECT_FALSE(finding) << name << ": " << *finding;
     }
     (void)testing::internal::GetCapturedStderr();
