@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -16,7 +17,6 @@
 #include "schemas/gps_cnav2/FrameDef.h"
 #include "schemas/irnss/SubframeDef.h"
 #include "support/RealData.h"
-#include "support/TreeChecks.h"
 #include "zeltnavmsg/NavMessageDecoder.h"
 
 namespace {
@@ -111,6 +111,65 @@ TEST(TreeListing, FastListingEqualsThePlainOne) {
                     << selectorName << " " << value << ": " << hex;
             }
         }
+    }
+}
+
+// How often each bit of `def` is covered by `members`; a member reaching outside fails.
+std::vector<int> coverage(const BitStructDef& def, const std::vector<const BitFieldDef*>& members) {
+    const int base = def.ranges().front().firstBitIndex();
+    std::vector<int> count(static_cast<std::size_t>(def.totalBitsCount()), 0);
+    for (const BitFieldDef* m : members) {
+        for (const BitRange& r : m->ranges()) {
+            for (int i = r.firstBitIndex() - base; i <= r.lastBitIndex() - base; ++i) {
+                if (i < 0 || i >= def.totalBitsCount()) {
+                    ADD_FAILURE() << "'" << m->name() << "' reaches outside its structure";
+                    return count;
+                }
+                ++count[static_cast<std::size_t>(i)];
+            }
+        }
+    }
+    return count;
+}
+
+// Checks, for `def` and every structure below it, that its members tile it exactly: every
+// bit belongs to exactly one member, for the always-present members together with each
+// variant in turn. A hidden always-present member that spans exactly the bits of the
+// variant (a raw placeholder for the page data) is left out when a variant is counted.
+void expectTiled(const BitStructDef& def, const std::string& path = "") {
+    const std::string here = path + "/" + def.name();
+    ASSERT_EQ(def.ranges().size(), 1U) << here;
+    std::set<int> containers;
+    for (const BitFieldDef* child : def.children()) {
+        if (child->containerId() >= 0) {
+            containers.insert(child->containerId());
+        }
+        if (child->isStruct()) {
+            expectTiled(static_cast<const BitStructDef&>(*child), here);
+        }
+    }
+    if (containers.empty()) {
+        containers.insert(-1);  // the always-present members alone
+    }
+    for (const int c : containers) {
+        std::vector<const BitFieldDef*> members;
+        for (const BitFieldDef* m : def.children()) {
+            if (m->containerId() >= 0 && m->containerId() == c) {
+                members.push_back(m);
+            }
+        }
+        const std::vector<int> variantBits = coverage(def, members);
+        for (const BitFieldDef* m : def.children()) {
+            if (m->containerId() < 0 &&
+                !(m->hasFlag(Hidden) && coverage(def, {m}) == variantBits)) {
+                members.push_back(m);
+            }
+        }
+        const std::vector<int> count = coverage(def, members);
+        const auto bit = std::find_if(count.begin(), count.end(), [](int n) { return n != 1; });
+        EXPECT_TRUE(bit == count.end())
+            << here << " variant " << c << ": relative bit " << bit - count.begin()
+            << " is covered " << *bit << " times";
     }
 }
 
