@@ -11,8 +11,8 @@
 #include "api/HexInput.h"
 #include "legacy/SubframeCoderBeidouNav.h"
 #include "legacy/SubframeCoderGpsLNav.h"
-#include "support/BeidouWords.h"
 #include "support/RealData.h"
+#include "support/SubframeBits.h"
 
 namespace {
 
