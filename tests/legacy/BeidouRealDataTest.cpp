@@ -17,8 +17,6 @@ namespace {
 using namespace ZeltNavMsg::Testing;
 using ZeltNavMsg::MessageFormat;
 
-constexpr double kPi = 3.1415926535898;
-
 const auto kSame = namePairs(
     "alpha0 alpha0 alpha1 alpha1 alpha2 alpha2 alpha3 alpha3 beta0 beta0 beta1 beta1 "
     "beta2 beta2 beta3 beta3 a0 a0 a1 a1 a2 a2 Cuc cuc Cus cus Cic cic Cis cis Crc crc "

@@ -15,8 +15,6 @@ namespace {
 using namespace ZeltNavMsg::Testing;
 using ZeltNavMsg::MessageFormat;
 
-constexpr double kPi = 3.1415926535898;
-
 const auto kSame = namePairs(
     "TGD tgd toc toc af2 af2 af1 af1 af0 af0 Crs crs Cuc cuc Cus cus Cic cic Cis cis Crc crc "
     "e e toe toe toa toa A0 A0 A1 A1 tot tot alpha0 alfa0 alpha1 alfa1 alpha2 alfa2 "

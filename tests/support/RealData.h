@@ -7,7 +7,12 @@
 #include <string_view>
 #include <vector>
 
+#include "zeltnavmsg/NavMessageDecoder.h"
+
 namespace ZeltNavMsg::Testing {
+
+// Pi as the interface documents fix it, for ground truth given in radians.
+inline constexpr double kPi = 3.1415926535898;
 
 // The rows of a TAB-separated file under tests/data, blank lines and lines starting with
 // '#' skipped; `where` is "file:line" for failure messages. A blank inside a cell is
@@ -40,6 +45,10 @@ struct ListedValue {
 };
 using Listing = std::multimap<std::string, ListedValue>;
 Listing parseListing(std::string_view text);
+// What Decode lists for a frame format's bits (subframe and page 0).
+inline Listing decodeFrame(MessageFormat format, std::string_view hex) {
+    return parseListing(NavMessageDecoder::Decode(format, 0, 0, hex));
+}
 
 // "a x b y" as {a: prefix + x, b: prefix + y}: ground-truth names and listing keys.
 std::map<std::string, std::string> namePairs(std::string_view words,
