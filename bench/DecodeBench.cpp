@@ -21,6 +21,8 @@
 
 #include "AllocationCounter.h"
 #include "api/HexInput.h"
+#include "baseline/NaiveLegacyListing.h"
+#include "baseline/NaiveTreeListing.h"
 #include "legacy/BeidouD1Interface.h"
 #include "legacy/BeidouD2Interface.h"
 #include "legacy/GpsL1caInterface.h"
@@ -29,8 +31,6 @@
 #include "schemas/beidou_cnav2/FrameDef.h"
 #include "schemas/gps_cnav2/FrameDef.h"
 #include "schemas/irnss/SubframeDef.h"
-#include "support/NaiveLegacyListing.h"
-#include "support/NaiveTreeListing.h"
 #include "zeltnavmsg/NavMessageDecoder.h"
 
 namespace {
@@ -159,10 +159,10 @@ void benchHexParsing(benchmark::State& state, const FormatData* data) {
 // The plain snprintf listing of a message of the format.
 std::string naiveListing(const BenchFormat& format, const Message& m) {
     if (format.legacySignal != nullptr) {
-        return ZeltNavMsg::Testing::naiveLegacyListing(*format.legacySignal, m.subframe, m.page,
-                                                       m.hex);
+        return ZeltNavMsg::Baseline::naiveLegacyListing(*format.legacySignal, m.subframe, m.page,
+                                                        m.hex);
     }
-    return ZeltNavMsg::Testing::naiveTreeListing(format.treeRoot(), format.treeBits, m.hex);
+    return ZeltNavMsg::Baseline::naiveTreeListing(format.treeRoot(), format.treeBits, m.hex);
 }
 
 void benchNaiveListing(benchmark::State& state, const FormatData* data) {

@@ -19,19 +19,15 @@ const DecodeOutcome kNotSupported = {Kind::DecodingError,
                                      "Decoding is not supported yet for this message format"};
 
 TEST(DecodeDispatch, ValuesOutsideTheEnumerationAreRefusedAfterTheDigits) {
-    for (const SupportedFormat& row : kSupportedFormats) {
-        const std::string sample(row.sampleHex);
-        for (const std::int32_t value : {-1, 13, 14, 255, INT32_MIN, INT32_MAX}) {
-            const auto format = static_cast<MessageFormat>(value);
-            EXPECT_EQ(decodeOutcome(format, row.subframe, row.page, sample), kNotSupported)
-                << value;
-            EXPECT_EQ(decodeOutcome(format, 1, 0, sample + std::string(1 << 20, '0')),
-                      kNotSupported);
-            EXPECT_EQ(decodeOutcome(format, 1, 0, " \t"),
-                      (DecodeOutcome{Kind::OutOfRange, "Decode: hex string is empty"}));
-            EXPECT_EQ(decodeOutcome(format, 1, 0, sample + "z"),
-                      (DecodeOutcome{Kind::DecodingError, "Can't parse symbol as hex digit: z"}));
-        }
+    const std::string sample(kSupportedFormats[0].sampleHex);
+    for (const std::int32_t value : {-1, 13, 14, 255, INT32_MIN, INT32_MAX}) {
+        const auto format = static_cast<MessageFormat>(value);
+        EXPECT_EQ(decodeOutcome(format, 1, 0, sample), kNotSupported) << value;
+        EXPECT_EQ(decodeOutcome(format, 1, 0, sample + std::string(1 << 20, '0')), kNotSupported);
+        EXPECT_EQ(decodeOutcome(format, 1, 0, " \t"),
+                  (DecodeOutcome{Kind::OutOfRange, "Decode: hex string is empty"}));
+        EXPECT_EQ(decodeOutcome(format, 1, 0, sample + "z"),
+                  (DecodeOutcome{Kind::DecodingError, "Can't parse symbol as hex digit: z"}));
     }
 }
 

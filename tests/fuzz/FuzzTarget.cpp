@@ -5,17 +5,14 @@
 #include <sanitizer/common_interface_defs.h>
 
 #include <cstdlib>
-#include <string>
 
 #include "fuzz/FuzzInput.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const ZeltNavMsg::Fuzz::Request request = ZeltNavMsg::Fuzz::parseInput(data, size);
-    if (const auto finding = ZeltNavMsg::Fuzz::checkRequest(request)) {
+    if (const auto finding = ZeltNavMsg::Fuzz::checkInput(data, size)) {
         // Standard error is closed in runs that silence the word writer
         // (-close_fd_mask=2); the sanitizer's report channel stays open.
-        const std::string report = "navmsg_fuzz finding: " + *finding;
-        __sanitizer_report_error_summary(report.c_str());
+        __sanitizer_report_error_summary(("navmsg_fuzz finding: " + *finding).c_str());
         std::abort();
     }
     return 0;

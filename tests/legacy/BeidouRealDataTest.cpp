@@ -17,8 +17,6 @@ namespace {
 using namespace ZeltNavMsg::Testing;
 using ZeltNavMsg::MessageFormat;
 
-constexpr double kPi = 3.1415926535898;
-
 const auto kSame = namePairs(
     "alpha0 alpha0 alpha1 alpha1 alpha2 alpha2 alpha3 alpha3 beta0 beta0 beta1 beta1 "
     "beta2 beta2 beta3 beta3 a0 a0 a1 a1 a2 a2 Cuc cuc Cus cus Cic cic Cis cis Crc crc "
@@ -45,27 +43,19 @@ const std::map<std::string, SplitField> kSplitFields = {
     {"omega[p9+p10]", {"w", 5, 32, -31, true}},
 };
 
-class Checker {
-  public:
-    explicit Checker(bool d2) : d2_(d2) {}
-
-    void check(const RealMessage& m, const Listing& lines) {
-        for (const auto& [name, line] : lines) {
-            if (name.ends_with("_1")) {
-                firstParts_[m.satellite + " " + name] = line.value;
-            }
-        }
-        for (const auto& [key, text] : m.truth) {
-            checkField(m, lines, key, text);
+// Checks one message against its ground truth; `firstParts` holds each satellite's latest
+// "_1" values, the earlier pages of the D2 split fields.
+void checkMessage(const RealMessage& m, const Listing& lines, bool d2,
+                  std::map<std::string, std::string>& firstParts) {
+    for (const auto& [name, line] : lines) {
+        if (name.ends_with("_1")) {
+            firstParts[m.satellite + " " + name] = line.value;
         }
     }
-
-  private:
-    void checkField(const RealMessage& m, const Listing& lines, const std::string& key,
-                    const std::string& text) {
-        const std::string& w = m.where;
+    const std::string& w = m.where;
+    const bool almanac = m.truth.contains("almSV");
+    for (const auto& [key, text] : m.truth) {
         const double v = std::atof(text.c_str());
-        const bool almanac = m.truth.contains("almSV");
         if (kSame.contains(key)) {
             expectValue(lines, kSame.at(key), v, w);
         } else if (kSemicircles.contains(key)) {
@@ -73,7 +63,21 @@ class Checker {
         } else if (kIntegers.contains(key)) {
             expectInteger(lines, kIntegers.at(key), std::llround(v), w);
         } else if (kSplitFields.contains(key)) {
-            checkSplit(m, lines, kSplitFields.at(key), v);
+            const SplitField& split = kSplitFields.at(key);
+            const long long raw =
+                std::llround(std::ldexp(split.semicircles ? v / kPi : v, -split.scaleExponent));
+            const long long bits = raw & ((1LL << split.totalBits) - 1);
+            const std::string name = split.name;
+            expectInteger(lines, name + "_2", bits & ((1LL << split.lowBits) - 1), w);
+            const auto first = firstParts.find(m.satellite + " " + name + "_1");
+            if (name == "omegadot") {
+                // "omegadot_1" is never printed: only the low 5 bits can be checked.
+                EXPECT_EQ(first, firstParts.end()) << w;
+            } else if (first == firstParts.end()) {
+                ADD_FAILURE() << w << ": no earlier page with " << name;
+            } else {
+                EXPECT_EQ(first->second, std::to_string(bits >> split.lowBits)) << w << " " << name;
+            }
         } else if (key == "TGD1" || key == "TGD2") {
             expectValue(lines, key == "TGD1" ? "tgd1" : "tgd2", v * 1e9, w);
         } else if (key == "toc") {
@@ -81,7 +85,7 @@ class Checker {
             expectValue(lines, "toc", v >= 524288.0 ? v - 1048576.0 : v, w);
         } else if (key == "toa") {
             expectInteger(lines, "toa", std::llround(v / 4096.0), w);
-        } else if (key == "toe" && d2_) {
+        } else if (key == "toe" && d2) {
             expectInteger(lines, "toe", std::llround(v / 8.0), w);
         } else if (key == "toe") {
             // D1 subframe 3 holds the 15 least significant bits of toe / 8 s; the other
@@ -95,40 +99,20 @@ class Checker {
             // The page that carries SV n's almanac, by the interface document: D1
             // subframe 4 pages 1-24, subframe 5 pages 1-6; D2 pages 37-60 and 95-100.
             const long long sv = std::stoll(text.substr(1));
-            const long long page =
-                d2_ ? (sv <= 24 ? sv + 36 : sv + 70) : (m.subframe == 4 ? sv : sv - 24);
-            expectInteger(lines, "pnum", page, w);
+            expectInteger(lines, "pnum",
+                          d2 ? (sv <= 24 ? sv + 36 : sv + 70) : (m.subframe == 4 ? sv : sv - 24),
+                          w);
         } else {
             ADD_FAILURE() << w << ": no check for ground-truth field " << key;
         }
     }
-
-    void checkSplit(const RealMessage& m, const Listing& lines, const SplitField& split,
-                    double truth) {
-        const double inUnits = split.semicircles ? truth / kPi : truth;
-        const long long raw = std::llround(std::ldexp(inUnits, -split.scaleExponent));
-        const long long bits = raw & ((1LL << split.totalBits) - 1);
-        const std::string name = split.name;
-        expectInteger(lines, name + "_2", bits & ((1LL << split.lowBits) - 1), m.where);
-        if (name == "omegadot") {
-            // "omegadot_1" is never printed: only the low 5 bits can be checked.
-            EXPECT_FALSE(firstParts_.contains(m.satellite + " omegadot_1")) << m.where;
-            return;
-        }
-        const auto first = firstParts_.find(m.satellite + " " + name + "_1");
-        ASSERT_NE(first, firstParts_.end()) << m.where << ": no earlier page with " << name;
-        EXPECT_EQ(first->second, std::to_string(bits >> split.lowBits)) << m.where << " " << name;
-    }
-
-    bool d2_;
-    std::map<std::string, std::string> firstParts_;  // "satellite name_1" -> latest value
-};
+}
 
 TEST(BeidouRealData, SubframesMatchIndependentDecoders) {
     for (const auto& [format, file, count] :
          {std::tuple{MessageFormat::BeidouD1, "beidou_d1.tsv", 84},
           {MessageFormat::BeidouD2, "beidou_d2.tsv", 148}}) {
-        Checker checker(format == MessageFormat::BeidouD2);
+        std::map<std::string, std::string> firstParts;  // "satellite name_1" -> value
         int checked = 0;
         for (const RealMessage& m : loadRealData(file)) {
             ASSERT_EQ(m.hex.size(), 75U) << m.where;
@@ -136,7 +120,7 @@ TEST(BeidouRealData, SubframesMatchIndependentDecoders) {
             const std::string text =
                 ZeltNavMsg::NavMessageDecoder::Decode(format, m.subframe, m.page, m.hex);
             EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << m.where;
-            checker.check(m, parseLegacyListing(text));
+            checkMessage(m, parseListing(text), format == MessageFormat::BeidouD2, firstParts);
             ++checked;
         }
         EXPECT_EQ(checked, count) << file;

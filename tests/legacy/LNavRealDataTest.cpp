@@ -15,8 +15,6 @@ namespace {
 using namespace ZeltNavMsg::Testing;
 using ZeltNavMsg::MessageFormat;
 
-constexpr double kPi = 3.1415926535898;
-
 const auto kSame = namePairs(
     "TGD tgd toc toc af2 af2 af1 af1 af0 af0 Crs crs Cuc cuc Cus cus Cic cic Cis cis Crc crc "
     "e e toe toe toa toa A0 A0 A1 A1 tot tot alpha0 alfa0 alpha1 alfa1 alpha2 alfa2 "
@@ -102,7 +100,7 @@ TEST(LNavRealData, SubframesMatchIndependentDecoders) {
             ASSERT_EQ(m.hex.size(), 75U) << m.where;
             const std::string text =
                 ZeltNavMsg::NavMessageDecoder::Decode(format, m.subframe, m.page, m.hex);
-            ++counts[checkTruth(m, parseLegacyListing(text)) ? 0 : 1];
+            ++counts[checkTruth(m, parseListing(text)) ? 0 : 1];
         }
         EXPECT_EQ(counts[0], checked) << file;
         EXPECT_EQ(counts[1], otherLayout) << file;

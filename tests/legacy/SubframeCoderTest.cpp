@@ -11,8 +11,8 @@
 #include "api/HexInput.h"
 #include "legacy/SubframeCoderBeidouNav.h"
 #include "legacy/SubframeCoderGpsLNav.h"
-#include "support/BeidouWords.h"
 #include "support/RealData.h"
+#include "support/SubframeBits.h"
 
 namespace {
 
@@ -215,30 +215,6 @@ TEST(SubframeCoder, BeidouEncodeThenDecode) {
             EXPECT_EQ(word(sf, k), decoded.get(30 * k - 29, 22) << 8) << trial << " word " << k;
         }
     }
-    subframe_t ones;
-    ones.bitCount = 300;
-    std::memset(ones.data, 0xFF, sizeof ones.data);
-    EXPECT_FALSE(kBeidou.Decode(ones));
-    EXPECT_EQ(word(ones, 1), 0x3FFFFFF0U);
-    for (int k = 2; k <= 10; ++k) {
-        EXPECT_EQ(word(ones, k), 0x3FFFFF00U) << "word " << k;
-    }
-    EXPECT_EQ(ones.data[37] & 0x0F, 0x0F) << "bits past word 10 are left alone";
-}
-
-// Encoding builds on a cleared copy: the words it cannot write come out zero.
-TEST(SubframeCoder, BeidouEncodeOfAShortRecord) {
-    subframe_t sf;
-    sf.bitCount = 240;  // words 9 and 10 do not fit
-    std::memset(sf.data, 0xFF, sizeof sf.data);
-    testing::internal::CaptureStderr();
-    EXPECT_TRUE(kBeidou.Encode(sf));
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "The data does not fit in the subframe 0: data 271, sf-length 241.\n"
-              "The data does not fit in the subframe 0: data 301, sf-length 241.\n");
-    EXPECT_EQ(word(sf, 8), interleave(bchCodeword(0x7FF), bchCodeword(0x7FF)));
-    EXPECT_EQ(word(sf, 9), 0U);
-    EXPECT_EQ(word(sf, 10), 0U);
 }
 
 }  // namespace

@@ -18,46 +18,33 @@
 
 namespace {
 
-using ZeltNavMsg::MessageFormat;
-using ZeltNavMsg::Testing::decodeOutcome;
-using ZeltNavMsg::Testing::DecodeOutcome;
-using ZeltNavMsg::Testing::kSupportedFormats;
+using namespace ZeltNavMsg::Testing;
 
 struct Request {
-    MessageFormat format;
+    ZeltNavMsg::MessageFormat format;
     std::int32_t subframe;
     std::int32_t page;
     std::string hex;
     DecodeOutcome expected;  // from a single thread
 };
 
-// Every real message of every supported format, and inputs that fail in each documented
-// way (none that make the word writer report: they would only flood the log).
-std::vector<Request> requests() {
+TEST(ConcurrentDecode, EightThreadsGetTheSingleThreadedResults) {
+    // Every real message of every supported format, and inputs that fail in each
+    // documented way (none that make the word writer report: they would flood the log).
     std::vector<Request> all;
     for (const auto& row : kSupportedFormats) {
-        for (const auto& m : ZeltNavMsg::Testing::loadRealData(row.realDataFile)) {
-            if (m.format == row.name) {
-                all.push_back({row.format, m.subframe, m.page, m.hex, {}});
-            }
+        for (const auto& m : loadRealData(row.realDataFile)) {
+            all.push_back({row.format, m.subframe, m.page, m.hex, {}});
         }
         const std::string sample(row.sampleHex);
-        all.push_back({row.format, row.subframe, row.page, sample + "g", {}});
-        all.push_back({row.format, row.subframe, row.page, " \r\n", {}});
-        all.push_back({row.format, row.subframe, row.page, sample + sample, {}});
-        all.push_back({static_cast<MessageFormat>(-1), 0, 0, sample, {}});
+        for (const std::string& hex : {sample + "g", std::string(" \r\n"), sample + sample}) {
+            all.push_back({row.format, row.subframe, row.page, hex, {}});
+        }
+        all.push_back({static_cast<ZeltNavMsg::MessageFormat>(-1), 0, 0, sample, {}});
     }
+    std::size_t listings = 0;
     for (Request& r : all) {
         r.expected = decodeOutcome(r.format, r.subframe, r.page, r.hex);
-    }
-    return all;
-}
-
-TEST(ConcurrentDecode, EightThreadsGetTheSingleThreadedResults) {
-    const std::vector<Request> all = requests();
-    ASSERT_GT(all.size(), 100U);
-    std::size_t listings = 0;
-    for (const Request& r : all) {
         listings += r.expected.kind == DecodeOutcome::Kind::Text ? 1 : 0;
     }
     ASSERT_GT(listings, all.size() / 2) << "the mix should be mostly real messages";
@@ -69,7 +56,6 @@ TEST(ConcurrentDecode, EightThreadsGetTheSingleThreadedResults) {
     std::atomic<long> mismatches{0};
     std::mutex firstMismatchLock;
     std::string firstMismatch;
-
     std::vector<std::thread> threads;
     for (int t = 0; t < kThreads; ++t) {
         threads.emplace_back([&, t] {
@@ -91,7 +77,6 @@ TEST(ConcurrentDecode, EightThreadsGetTheSingleThreadedResults) {
     for (std::thread& thread : threads) {
         thread.join();
     }
-
     EXPECT_EQ(mismatches.load(), 0) << firstMismatch;
 }
 

@@ -24,27 +24,12 @@ struct DecodeOutcome {
     bool operator==(const DecodeOutcome&) const = default;
 };
 
-inline const char* kindName(DecodeOutcome::Kind kind) {
-    switch (kind) {
-        case DecodeOutcome::Kind::Text:
-            return "text";
-        case DecodeOutcome::Kind::DecodingError:
-            return "DecodingError";
-        case DecodeOutcome::Kind::OutOfRange:
-            return "std::out_of_range";
-        case DecodeOutcome::Kind::LengthError:
-            return "std::length_error";
-        case DecodeOutcome::Kind::OtherError:
-            break;
-    }
-    return "another exception";
-}
-
 inline std::ostream& operator<<(std::ostream& out, const DecodeOutcome& outcome) {
+    static constexpr const char* kKinds[] = {"text", "DecodingError", "std::out_of_range",
+                                             "std::length_error", "another exception"};
     constexpr std::size_t kShown = 200;
-    out << kindName(outcome.kind) << ": \"" << outcome.text.substr(0, kShown)
-        << (outcome.text.size() > kShown ? "...\"" : "\"");
-    return out;
+    return out << kKinds[static_cast<int>(outcome.kind)] << ": \"" << outcome.text.substr(0, kShown)
+               << (outcome.text.size() > kShown ? "...\"" : "\"");
 }
 
 // Decodes `hex` from a heap copy of exactly its size, so that AddressSanitizer reports

@@ -10,119 +10,93 @@ namespace ZeltNavMsg::Testing {
 
 namespace {
 
-std::ifstream openData(const std::string& path) {
-    std::ifstream file(std::string(ZELTNAVMSG_TEST_DATA_DIR) + "/" + path);
+std::ifstream openData(std::string_view path) {
+    std::ifstream file(std::string(ZELTNAVMSG_TEST_DATA_DIR) + "/" + std::string(path));
     EXPECT_TRUE(file.good()) << "cannot read " << path;
     return file;
 }
 
-std::string trim(std::string_view s) {
-    const auto first = s.find_first_not_of(' ');
-    return first == std::string_view::npos
-               ? std::string()
-               : std::string(s.substr(first, s.find_last_not_of(' ') - first + 1));
-}
-
 }  // namespace
 
-std::vector<RealMessage> loadRealData(std::string_view fileName) {
-    std::ifstream file = openData("real-data/" + std::string(fileName));
-    std::vector<RealMessage> messages;
+std::vector<DataRow> loadTable(std::string_view relativePath) {
+    std::ifstream file = openData(relativePath);
+    std::vector<DataRow> rows;
     int lineNumber = 0;
     for (std::string line; std::getline(file, line);) {
         ++lineNumber;
         if (line.empty() || line.front() == '#') {
             continue;
         }
-        std::vector<std::string> cells;
+        DataRow row{{}, std::string(relativePath) + ":" + std::to_string(lineNumber)};
         std::stringstream in(line);
         for (std::string cell; std::getline(in, cell, '\t');) {
-            cells.push_back(cell);
+            row.cells.push_back(cell);
         }
-        RealMessage m;
-        m.where = std::string(fileName) + ":" + std::to_string(lineNumber);
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+std::vector<RealMessage> loadRealData(std::string_view fileName) {
+    std::vector<RealMessage> messages;
+    for (const DataRow& row : loadTable("real-data/" + std::string(fileName))) {
+        const auto& cells = row.cells;
         if (cells.size() < 5) {
-            ADD_FAILURE() << m.where << ": too few columns";
+            ADD_FAILURE() << row.where << ": too few columns";
             continue;
         }
-        m.format = cells[0];
-        m.satellite = cells[1];
-        m.subframe = std::stoi(cells[2]);
-        m.page = std::stoi(cells[3]);
-        m.hex = cells[4];
+        RealMessage m{cells[0], cells[1], std::stoi(cells[2]), std::stoi(cells[3]), cells[4],
+                      {},       row.where};
         for (std::size_t i = 5; i < cells.size(); ++i) {
             const auto eq = cells[i].find('=');
-            if (eq != std::string::npos) {
-                m.truth[cells[i].substr(0, eq)] = cells[i].substr(eq + 1);
-            }
+            m.truth[cells[i].substr(0, eq)] = cells[i].substr(eq + 1);
         }
         messages.push_back(std::move(m));
     }
     return messages;
 }
 
-Listing parseLegacyListing(std::string_view text) {
+Listing parseListing(std::string_view text) {
     Listing lines;
+    std::vector<std::string> headings;
     for (const std::string& line : splitLines(text)) {
-        const auto colon = line.find(':');
-        if (colon == std::string::npos || line.starts_with("Subframe:")) {
+        const std::size_t level = line.find_first_not_of('\t');
+        if (level == std::string::npos || line.starts_with("Subframe:")) {
             continue;
         }
+        const std::string body = line.substr(level);
+        const auto colon = body.find(':');
+        headings.resize(level);
+        if (colon == std::string::npos) {
+            headings.push_back(body);
+            continue;
+        }
+        std::string key;
+        for (std::size_t i = 1; i < headings.size(); ++i) {  // the frame's own name is left out
+            key += headings[i] + "/";
+        }
+        key += body.substr(body.find_first_not_of(' '), colon - body.find_first_not_of(' '));
         ListedValue parsed;
-        std::stringstream words(line.substr(colon + 1));
+        std::string rest = body.substr(colon + 1);
+        if (const auto at = rest.find(", Raw hex:"); at != std::string::npos) {
+            parsed.hex = rest.substr(at + 10);
+            rest.resize(at);
+        }
+        std::istringstream words(rest);
         words >> parsed.value;
         if (parsed.value.starts_with("0x")) {
             parsed.hex = parsed.value.substr(2);
             parsed.value.clear();
             words >> parsed.value;
         }
-        std::getline(words, parsed.units);
-        parsed.units = trim(parsed.units);
-        lines.emplace(trim(line.substr(0, colon)), parsed);
-    }
-    return lines;
-}
-
-Listing parseTreeListing(std::string_view text) {
-    Listing lines;
-    std::vector<std::string> headings;
-    std::stringstream in{std::string(text)};
-    for (std::string line; std::getline(in, line);) {
-        if (line.ends_with('\r')) {
-            line.pop_back();
-        }
-        const std::size_t level = line.find_first_not_of('\t');
-        if (level == std::string::npos) {
-            continue;
-        }
-        const std::string body = line.substr(level);
-        headings.resize(level);
-        const auto colon = body.find(": ");
-        if (colon == std::string::npos && !body.ends_with(":")) {
-            headings.push_back(body);
-            continue;
-        }
-        std::string path;
-        for (std::size_t i = 1; i < headings.size(); ++i) {  // the frame's own name is left out
-            path += headings[i] + "/";
-        }
-        ListedValue parsed;
-        std::string rest = colon == std::string::npos ? "" : body.substr(colon + 2);
-        if (const auto at = rest.find(", Raw hex:"); at != std::string::npos) {
-            parsed.hex = rest.substr(at + 10);
-            rest.resize(at);
-        }
-        const auto blank = rest.find(' ');
-        parsed.value = rest.substr(0, blank);
-        parsed.units = blank == std::string::npos ? "" : rest.substr(blank + 1);
-        lines.emplace(path + body.substr(0, colon), parsed);
+        lines.emplace(key, parsed);
     }
     return lines;
 }
 
 std::map<std::string, std::string> namePairs(std::string_view words, const std::string& prefix) {
     std::map<std::string, std::string> pairs;
-    std::stringstream in{std::string(words)};
+    std::istringstream in{std::string(words)};
     for (std::string key, name; in >> key >> name;) {
         pairs[key] = prefix + name;
     }
@@ -138,19 +112,13 @@ const ListedValue* onlyLine(const Listing& lines, const std::string& key,
     return &lines.find(key)->second;
 }
 
-bool sameToSixDigits(double printed, double truth) {
-    const double magnitude = std::max(std::fabs(printed), std::fabs(truth));
-    if (magnitude == 0.0) {
-        return true;
-    }
-    const double unit = std::pow(10.0, std::floor(std::log10(magnitude)) - 5);
-    return std::fabs(printed - truth) <= 0.5 * unit * 1.0001;
-}
-
 void expectValue(const Listing& lines, const std::string& key, double truth,
                  const std::string& where) {
     if (const ListedValue* line = onlyLine(lines, key, where)) {
-        EXPECT_TRUE(sameToSixDigits(std::stod(line->value), truth))
+        const double printed = std::stod(line->value);
+        const double magnitude = std::max(std::fabs(printed), std::fabs(truth));
+        const double unit = std::pow(10.0, std::floor(std::log10(magnitude)) - 5);
+        EXPECT_TRUE(magnitude == 0.0 || std::fabs(printed - truth) <= 0.5 * unit * 1.0001)
             << where << " " << key << ": printed " << line->value << ", truth " << truth;
     }
 }

@@ -7,11 +7,25 @@
 #include <string_view>
 #include <vector>
 
+#include "zeltnavmsg/NavMessageDecoder.h"
+
 namespace ZeltNavMsg::Testing {
 
+// Pi as the interface documents fix it, for ground truth given in radians.
+inline constexpr double kPi = 3.1415926535898;
+
+// The rows of a TAB-separated file under tests/data, blank lines and lines starting with
+// '#' skipped; `where` is "file:line" for failure messages. A blank inside a cell is
+// part of it.
+struct DataRow {
+    std::vector<std::string> cells;
+    std::string where;
+};
+std::vector<DataRow> loadTable(std::string_view relativePath);
+
 // A real broadcast logged by a receiver, with field values decoded by independent
-// decoders: a row of tests/data/real-data/*.tsv (TAB-separated format, satellite,
-// subframe, page, hex, then field=value[ unit] pairs).
+// decoders: a row of tests/data/real-data/*.tsv (format, satellite, subframe, page, hex,
+// then field=value[ unit] cells).
 struct RealMessage {
     std::string format;
     std::string satellite;
@@ -19,20 +33,22 @@ struct RealMessage {
     std::int32_t page = 0;
     std::string hex;
     std::map<std::string, std::string> truth;  // field -> value text, unit included
-    std::string where;                         // "file:line" for failure messages
+    std::string where;
 };
 std::vector<RealMessage> loadRealData(std::string_view fileName);
 
-// The value lines of a listing: keyed by name (legacy listings) or by the headings
-// below the top one and the name, joined by "/" ("Subframe 2/Ephemeris/M0").
+// The value lines of a listing, keyed by name: a legacy line by its name, a tree line by
+// the headings below the top one and its name, joined by "/" ("Subframe 2/Ephemeris/M0").
 struct ListedValue {
     std::string value;  // the first word of the value (a raw-hex-only line's digits)
-    std::string units;  // the rest of the value text
     std::string hex;    // the raw hex digits, without "0x"; empty when not printed
 };
 using Listing = std::multimap<std::string, ListedValue>;
-Listing parseLegacyListing(std::string_view text);
-Listing parseTreeListing(std::string_view text);
+Listing parseListing(std::string_view text);
+// What Decode lists for a frame format's bits (subframe and page 0).
+inline Listing decodeFrame(MessageFormat format, std::string_view hex) {
+    return parseListing(NavMessageDecoder::Decode(format, 0, 0, hex));
+}
 
 // "a x b y" as {a: prefix + x, b: prefix + y}: ground-truth names and listing keys.
 std::map<std::string, std::string> namePairs(std::string_view words,
@@ -40,10 +56,8 @@ std::map<std::string, std::string> namePairs(std::string_view words,
 
 // The only line at `key`, or a failure naming `where`.
 const ListedValue* onlyLine(const Listing& lines, const std::string& key, const std::string& where);
-// Whether a "%g" text shows `truth` to six significant digits (half a unit of the sixth
-// digit, with a little room for the decimal scale constants).
-bool sameToSixDigits(double printed, double truth);
-// The only line at `key` shows `truth` to six digits, or exactly as an integer.
+// The only line at `key` shows `truth` to six significant digits (half a unit of the
+// sixth, with a little room for the decimal scale constants), or exactly as an integer.
 void expectValue(const Listing& lines, const std::string& key, double truth,
                  const std::string& where);
 void expectInteger(const Listing& lines, const std::string& key, long long truth,

@@ -60,23 +60,18 @@ TEST(WriteG, EdgesOfEachForm) {
 }
 
 // Random significands at every binary exponent the legacy tables can reach and well
-// beyond, both signs.
-TEST(WriteG, RandomValuesAtEveryExponent) {
+// beyond, both signs; and values of few binary digits, as integer x power-of-two scales
+// make them: many of them are exact ties at the seventh significant digit.
+TEST(WriteG, RandomAndShortDyadicValues) {
     std::mt19937_64 random(31);
     for (int exponent = -90; exponent <= 40; ++exponent) {
         for (int i = 0; i < 1500; ++i) {
             const double significand =
                 1.0 + static_cast<double>(random() >> 12) / 4503599627370496.0;  // [1, 2)
-            const double v = std::ldexp(significand, exponent);
-            EXPECT_LIKE_PRINTF(v);
-            EXPECT_LIKE_PRINTF(-v);
+            EXPECT_LIKE_PRINTF(std::ldexp(significand, exponent));
+            EXPECT_LIKE_PRINTF(-std::ldexp(significand, exponent));
         }
     }
-}
-
-// Values of few binary digits, as integer x power-of-two scales make them: many of
-// them are exact ties at the seventh significant digit.
-TEST(WriteG, ShortDyadicValues) {
     for (int shift = -45; shift <= 12; ++shift) {
         for (int j = 1; j < 4096; ++j) {
             EXPECT_LIKE_PRINTF(std::ldexp(j, shift));
@@ -90,19 +85,16 @@ TEST(WriteG, ShortDyadicValues) {
 // Every scaled entry of the LNAV tables, with the extreme and random raw values.
 TEST(WriteG, ScaledTableValues) {
     std::mt19937 random(32);
-    for (const ZeltNavMsg::Legacy::SubframeIf* signal :
-         {static_cast<const ZeltNavMsg::Legacy::SubframeIf*>(
-              &ZeltNavMsg::Legacy::GPS_L1CA_Interface),
-          static_cast<const ZeltNavMsg::Legacy::SubframeIf*>(
-              &ZeltNavMsg::Legacy::QZSS_L1CA_Interface)}) {
+    using ZeltNavMsg::Legacy::SubframeIf;
+    for (const SubframeIf* signal :
+         {static_cast<const SubframeIf*>(&ZeltNavMsg::Legacy::GPS_L1CA_Interface),
+          static_cast<const SubframeIf*>(&ZeltNavMsg::Legacy::QZSS_L1CA_Interface)}) {
         for (const auto& field : signal->fields()) {
             if (field.valueType < 2) {
                 continue;
             }
-            for (const std::int64_t raw :
-                 {std::int64_t{0}, std::int64_t{1}, std::int64_t{-1}, std::int64_t{INT32_MAX},
-                  std::int64_t{INT32_MIN}, std::int64_t{UINT32_MAX}}) {
-                EXPECT_LIKE_PRINTF(static_cast<double>(raw) * field.scale);
+            for (const double raw : {0.0, 1.0, -1.0, 2147483647.0, -2147483648.0, 4294967295.0}) {
+                EXPECT_LIKE_PRINTF(raw * field.scale);
             }
             for (int i = 0; i < 3000; ++i) {
                 const auto raw = static_cast<std::int32_t>(random()) >> (random() % 32);

@@ -26,36 +26,24 @@ struct CliRun {
     std::string err;
 };
 
-std::string readFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
-
-std::string tempPath(const char* name) {
-    const char* dir = std::getenv("TMPDIR");
-    return std::string(dir != nullptr ? dir : "/tmp") + "/navmsg-test-" +
-           std::to_string(::getpid()) + "-" + name;
-}
-
 // Runs navmsg with `args` (shell words) and `input` on its standard input.
 CliRun navmsg(const std::string& args, const std::string& input = "") {
-    const std::string in = tempPath("in");
-    const std::string out = tempPath("out");
-    const std::string err = tempPath("err");
-    std::ofstream(in, std::ios::binary) << input;
-    const std::string command = std::string("'") + NAVMSG_PATH + "' " + args + " <'" + in + "' >'" +
-                                out + "' 2>'" + err + "'";
+    const char* dir = std::getenv("TMPDIR");
+    const std::string base =
+        std::string(dir != nullptr ? dir : "/tmp") + "/navmsg-test-" + std::to_string(::getpid());
+    std::ofstream(base + ".in", std::ios::binary) << input;
+    const std::string command = std::string("'") + NAVMSG_PATH + "' " + args + " <'" + base +
+                                ".in' >'" + base + ".out' 2>'" + base + ".err'";
     const int raw = std::system(command.c_str());
-    CliRun run;
-    run.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
-    run.out = readFile(out);
-    run.err = readFile(err);
-    std::remove(in.c_str());
-    std::remove(out.c_str());
-    std::remove(err.c_str());
-    return run;
+    const auto take = [&](const std::string& suffix) {
+        std::ifstream in(base + suffix, std::ios::binary);
+        std::stringstream text;
+        text << in.rdbuf();
+        std::remove((base + suffix).c_str());
+        return text.str();
+    };
+    std::remove((base + ".in").c_str());
+    return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, take(".out"), take(".err")};
 }
 
 std::string withLf(std::string text) {

@@ -52,10 +52,6 @@ void expectTruth(const RealMessage& m, const Listing& lines, const Paths& paths,
     }
 }
 
-Listing decode(MessageFormat format, const std::string& hex) {
-    return parseTreeListing(ZeltNavMsg::NavMessageDecoder::Decode(format, 0, 0, hex));
-}
-
 TEST(BeidouCNavRealData, CNav1FramesMatchIndependentDecoders) {
     Paths paths = blockPaths("Subframe 2/EphemerisI/", "Subframe 2/EphemerisII/",
                              "Subframe 2/ClockCorrectionParameters/");
@@ -66,7 +62,7 @@ TEST(BeidouCNavRealData, CNav1FramesMatchIndependentDecoders) {
     std::map<int, int> perPage;
     for (RealMessage m : loadRealData("beidou_cnav1.tsv")) {
         ASSERT_EQ(m.hex.size(), 220U) << m.where;
-        const Listing lines = decode(MessageFormat::BeidouCNav1, m.hex);
+        const Listing lines = decodeFrame(MessageFormat::BeidouCNav1, m.hex);
         // The page column holds the page number; "HS" is a field of the page.
         expectValue(lines, "Subframe 3/Page ID", m.page, m.where);
         paths["HS"] = "Subframe 3/Page " + std::to_string(m.page) + "/HS";
@@ -99,7 +95,7 @@ TEST(BeidouCNavRealData, CNav2MessagesMatchIndependentDecoders) {
     std::map<int, int> perType;
     for (const RealMessage& m : loadRealData("beidou_cnav2.tsv")) {
         ASSERT_EQ(m.hex.size(), 72U) << m.where;
-        const Listing lines = decode(MessageFormat::BeidouCNav2, m.hex);
+        const Listing lines = decodeFrame(MessageFormat::BeidouCNav2, m.hex);
         expectValue(lines, "MesType", m.page, m.where);  // the page column holds the type
         const std::string msg = "Message type " + std::to_string(m.page) + " data/";
         Paths paths = blockPaths(msg + "Ephemeris I/", msg + "Ephemeris II/",

@@ -14,7 +14,6 @@ namespace {
 
 using namespace ZeltNavMsg::Testing;
 
-constexpr double kPi = 3.1415926535898;
 const std::string kEph = "Subframe 2/Ephemeris/";
 
 TEST(GpsCNav2RealData, FramesMatchIndependentDecoders) {
@@ -31,8 +30,7 @@ TEST(GpsCNav2RealData, FramesMatchIndependentDecoders) {
     int messages = 0;
     for (const RealMessage& m : loadRealData("gps_cnav2.tsv")) {
         ASSERT_EQ(m.hex.size(), 221U) << m.where;
-        const Listing lines = parseTreeListing(ZeltNavMsg::NavMessageDecoder::Decode(
-            ZeltNavMsg::MessageFormat::GpsCNav2, 0, 0, m.hex));
+        const Listing lines = decodeFrame(ZeltNavMsg::MessageFormat::GpsCNav2, m.hex);
         for (const auto& [key, text] : m.truth) {
             double v = std::atof(text.c_str());
             if (key == "A") {

@@ -17,11 +17,6 @@ using namespace ZeltNavMsg::Testing;
 
 const std::string kData = "Subframe specific data/";
 
-Listing decode(const std::string& hex) {
-    return parseTreeListing(
-        ZeltNavMsg::NavMessageDecoder::Decode(ZeltNavMsg::MessageFormat::Irnss, 0, 0, hex));
-}
-
 // GPS week 1943, 159168 s; the 262 published bits and 30 zero bits for CRC and tail.
 const struct {
     int prn;
@@ -34,10 +29,12 @@ const struct {
     {5, "8B19E88397036703FF1C0049AB3FC009B10AF84FE7E3773FFD7FD6D8F5FDDC41800000000", 1},
 };
 
-TEST(IrnssBroadcast, LiveSubframes1SharedFields) {
+// The values the four share, and every raw value published for PRN 7: the raw hex as a
+// two's-complement number of the field's width, and the value it prints.
+TEST(IrnssBroadcast, LiveSubframes1) {
     for (const auto& sf : kLive) {
         const std::string where = "PRN " + std::to_string(sf.prn);
-        const Listing lines = decode(sf.hex);
+        const Listing lines = decodeFrame(ZeltNavMsg::MessageFormat::Irnss, sf.hex);
         for (const auto& [key, value] : {std::pair{"TLM", 139},
                                          {"TOWC", 13265},
                                          {"Alert", 0},
@@ -52,11 +49,6 @@ TEST(IrnssBroadcast, LiveSubframes1SharedFields) {
             expectInteger(lines, key, value, where);
         }
     }
-}
-
-// Every raw value published for PRN 7: the raw hex as a two's-complement number of the
-// field's width, and the value it prints.
-TEST(IrnssBroadcast, LiveSubframe1RawValues) {
     const struct {
         const char* name;
         int width;
@@ -66,7 +58,7 @@ TEST(IrnssBroadcast, LiveSubframe1RawValues) {
                   {"TGD", 8, -31, -3},      {"deltaN", 22, -41, 3756}, {"Cuc", 15, -28, -1110},
                   {"Cus", 15, -28, 1787},   {"Cic", 15, -28, -17},     {"Cis", 15, -28, 24},
                   {"Crc", 15, -4, -3221},   {"Crs", 15, -4, -1929},    {"IDOT", 14, -43, -1331}};
-    const Listing lines = decode(kLive[0].hex);
+    const Listing lines = decodeFrame(ZeltNavMsg::MessageFormat::Irnss, kLive[0].hex);
     for (const auto& f : fields) {
         if (const ListedValue* line = onlyLine(lines, kData + f.name, "PRN 7")) {
             auto raw = static_cast<std::int64_t>(std::stoull(line->hex, nullptr, 16));
@@ -85,12 +77,12 @@ TEST(IrnssBroadcast, LoggedSubframe2MatchesIndependentDecoders) {
     int messages = 0;
     for (const RealMessage& m : loadRealData("irnss.tsv")) {
         ASSERT_EQ(m.hex.size(), 73U) << m.where;
-        const Listing lines = decode(m.hex);
+        const Listing lines = decodeFrame(ZeltNavMsg::MessageFormat::Irnss, m.hex);
         expectInteger(lines, "Subframe ID", m.subframe - 1, m.where);  // the file counts from 1
         for (const auto& [key, text] : m.truth) {
             const double v = std::stod(text);
             if (radians.contains(key)) {
-                expectValue(lines, radians.at(key), v / 3.1415926535898, m.where);
+                expectValue(lines, radians.at(key), v / kPi, m.where);
             } else if (same.contains(key)) {
                 expectValue(lines, same.at(key), v, m.where);
             } else {

@@ -1,8 +1,11 @@
-// Bit reads and writes against a bit-at-a-time model of the numbering (bit i is in
-// byte i/8 under mask 0x80 >> i%8), and the number conversions at their edges.
+// Bit ranges, buffer views, fixed bit arrays and numbering schemes: their checks, in
+// order, and their boundaries. Bit reads, and the writes that tests build input with,
+// against a bit-at-a-time model of the numbering (bit i is in byte i/8 under mask
+// 0x80 >> i%8); the number codes and the errors of the conversions.
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <cstdint>
 #include <limits>
 #include <random>
@@ -10,7 +13,10 @@
 #include <string>
 #include <vector>
 
+#include "bits/BinArray.h"
+#include "bits/BitRange.h"
 #include "bits/BitUtils.h"
+#include "bits/BitsNumberingSchemeConvertor.h"
 #include "support/Thrown.h"
 
 namespace {
@@ -20,6 +26,92 @@ using ZeltNavMsg::BitUtils;
 using ZeltNavMsg::NumberFormat;
 using ZeltNavMsg::Testing::thrownMessage;
 using Init = BitRange::InitializationType;
+
+struct RangeCase {
+    Init type;
+    int first;
+    int second;
+    int expectFirst;  // or -1 when an error is expected
+    int expectLast;
+    const char* error;
+};
+
+TEST(BitRange, ConstructionAndChecksInOrder) {
+    const RangeCase cases[] = {
+        {Init::FirstAndLastBit, 5, 5, 5, 5, nullptr},
+        {Init::FirstAndLastBit, 0, 882, 0, 882, nullptr},
+        {Init::FirstBitAndCount, 0, 1, 0, 0, nullptr},
+        {Init::FirstBitAndCount, 10, 22, 10, 31, nullptr},
+        {static_cast<Init>(7), 3, 4, 3, 6, nullptr},  // any non-zero type counts bits
+        {Init::FirstBitAndCount, 5, 0, -1, 0,
+         "BitRange: firstBitIndex is greater than lastBitIndex"},
+        {Init::FirstAndLastBit, 6, 5, -1, 0,
+         "BitRange: firstBitIndex is greater than lastBitIndex"},
+        {Init::FirstAndLastBit, -1, 3, -1, 0, "BitRange: firstBitIndex is negative"},
+        {Init::FirstAndLastBit, -1, -3, -1, 0, "BitRange: firstBitIndex is negative"},
+        {Init::FirstAndLastBit, 0, -1, -1, 0, "BitRange: lastBitIndex is negative"},
+        {Init::FirstBitAndCount, 0, -5, -1, 0, "BitRange: lastBitIndex is negative"},
+        // A count past the 32-bit range wraps to a negative last index.
+        {Init::FirstBitAndCount, INT_MAX, 2, -1, 0, "BitRange: lastBitIndex is negative"},
+    };
+    for (const RangeCase& c : cases) {
+        const std::string what = std::to_string(c.first) + "," + std::to_string(c.second);
+        if (c.error == nullptr) {
+            const BitRange r(c.type, c.first, c.second);
+            EXPECT_EQ(r.firstBitIndex(), c.expectFirst) << what;
+            EXPECT_EQ(r.lastBitIndex(), c.expectLast) << what;
+            EXPECT_EQ(r.bitsCount(), c.expectLast - c.expectFirst + 1) << what;
+            continue;
+        }
+        EXPECT_EQ(thrownMessage<std::invalid_argument>(
+                      [&] { (void)BitRange(c.type, c.first, c.second); }),
+                  c.error)
+            << what;
+    }
+}
+
+TEST(BitBuffer, ChecksPointerBeforeCount) {
+    const std::uint8_t byte = 0;
+    const auto message = [](const std::uint8_t* p, std::int32_t bits) {
+        return thrownMessage<std::runtime_error>([&] { ZeltNavMsg::ConstBitBuffer(p, bits); });
+    };
+    EXPECT_EQ(message(nullptr, 0), "BitBufferWrapper: ptr is 0");
+    EXPECT_EQ(message(nullptr, 8), "BitBufferWrapper: ptr is 0");
+    EXPECT_EQ(message(&byte, 0), "BitBufferWrapper: bitsCount should be positive");
+    EXPECT_EQ(message(&byte, -8), "BitBufferWrapper: bitsCount should be positive");
+    EXPECT_EQ(ZeltNavMsg::ConstBitBuffer(&byte, 1).bitsCount(), 1);
+}
+
+TEST(BinArray, CopyBitsChecksSourceRangeThenDestinationThenBuffer) {
+    ZeltNavMsg::BinArray<16> a;
+    a.fill(0);
+    const std::uint8_t src[2] = {0xAB, 0xCD};
+    a.copyBits(4, 0, 7, src, 16);
+    EXPECT_EQ(a.data()[0], 0x0A);
+    EXPECT_EQ(a.data()[1], 0xB0);
+    EXPECT_THROW(a.copyBits(0, 5, 4, src, 16), std::invalid_argument);   // source range
+    EXPECT_THROW(a.copyBits(-1, 0, 3, src, 16), std::invalid_argument);  // destination range
+    EXPECT_THROW(a.copyBits(0, 0, 3, nullptr, 16), std::runtime_error);  // source buffer
+    EXPECT_THROW(a.copyBits(0, 0, 3, src, 0), std::runtime_error);
+}
+
+TEST(BitsNumberingSchemeConvertor, ErrorsKeepEarlierRangesConverted) {
+    using S = ZeltNavMsg::BitsNumberingScheme;
+    std::vector<BitRange> ranges{BitRange(Init::FirstAndLastBit, 1, 8),
+                                 BitRange(Init::FirstAndLastBit, 0, 3)};
+    EXPECT_EQ(
+        thrownMessage<std::invalid_argument>([&] {
+            ZeltNavMsg::BitsNumberingSchemeConvertor(S::FromFirstBitOneBased, 300).convert(ranges);
+        }),
+        "BitRange: firstBitIndex is negative");
+    EXPECT_EQ(ranges[0], BitRange(Init::FirstAndLastBit, 0, 7));
+
+    const ZeltNavMsg::BitsNumberingSchemeConvertor unknown(static_cast<S>(4), 300);
+    std::vector<BitRange> none;
+    EXPECT_NO_THROW(unknown.convert(none));  // nothing to convert, nothing to refuse
+    EXPECT_EQ(thrownMessage<std::runtime_error>([&] { unknown.convert(ranges); }),
+              "BitsNumberingSchemeConvertor: Unknown bits numbering scheme");
+}
 
 bool bitAt(const std::vector<std::uint8_t>& bytes, int i) {
     return ((bytes[static_cast<std::size_t>(i / 8)] >> (7 - i % 8)) & 1U) != 0;
@@ -71,62 +163,8 @@ TEST(BitUtils, WritesEveryOffsetAndWidthTouchingNothingElse) {
     }
 }
 
-TEST(BitUtils, RangeListsSplitTheValueMostSignificantFirst) {
-    std::uint8_t bytes[4] = {};
-    const BitRange list[] = {BitRange(Init::FirstBitAndCount, 20, 6),
-                             BitRange(Init::FirstBitAndCount, 2, 10)};
-    BitUtils::writeBits(list, ZeltNavMsg::BitBuffer(bytes, 32),
-                        0xFABCDEU);  // only the low 16 bits count
-    EXPECT_EQ(BitUtils::readBits(BitRange(Init::FirstBitAndCount, 20, 6),
-                                 ZeltNavMsg::ConstBitBuffer(bytes, 32)),
-              0xBCDEU >> 10);
-    EXPECT_EQ(BitUtils::readBits(BitRange(Init::FirstBitAndCount, 2, 10),
-                                 ZeltNavMsg::ConstBitBuffer(bytes, 32)),
-              0xBCDEU & 0x3FFU);
-    EXPECT_EQ(BitUtils::readBits(list, ZeltNavMsg::ConstBitBuffer(bytes, 32)), 0xBCDEU);
-}
-
-TEST(BitUtils, CopyBitsMovesExactlyTheRange) {
-    const struct {
-        int dstFirst;
-        int srcFirst;
-        int count;
-    } cases[] = {
-        {0, 0, 72},   // whole bytes at once
-        {8, 16, 64},  // exactly 64 aligned bits: one chunk
-        {3, 0, 72},   // a 64-bit chunk and an 8-bit one
-        {0, 5, 130}, {17, 9, 1}, {0, 0, 200},
-    };
-    for (const auto& c : cases) {
-        const std::vector<std::uint8_t> src = randomBytes(32, 3);
-        std::vector<std::uint8_t> dst = randomBytes(32, 4);
-        const std::vector<std::uint8_t> before = dst;
-        BitUtils::copyBits(
-            BitRange(Init::FirstBitAndCount, c.dstFirst, c.count),
-            ZeltNavMsg::BitBuffer(dst.data(), 1),
-            BitRange(Init::FirstBitAndCount, c.srcFirst, 1),  // only its start counts
-            ZeltNavMsg::ConstBitBuffer(src.data(), 1));
-        for (int i = 0; i < 256; ++i) {
-            const bool inside = i >= c.dstFirst && i < c.dstFirst + c.count;
-            ASSERT_EQ(bitAt(dst, i),
-                      inside ? bitAt(src, c.srcFirst + i - c.dstFirst) : bitAt(before, i))
-                << "copy to " << c.dstFirst << " from " << c.srcFirst << " of " << c.count
-                << ", bit " << i;
-        }
-    }
-}
-
-TEST(BitUtils, HexTextToBits) {
-    std::uint8_t bytes[2] = {0xFF, 0xFF};
-    BitUtils::convertHexStringToBinArray("F", 1, bytes, 6);  // the missing digit counts as 0
-    EXPECT_EQ(bytes[0], 0xF3);  // bits 0-3 set, 4-5 cleared, 6-7 untouched
-    BitUtils::convertHexStringToBinArray("a5c", 3, bytes, 16);
-    EXPECT_EQ(bytes[0], 0xA5);
-    EXPECT_EQ(bytes[1], 0xC0);
-    BitUtils::convertHexStringToBinArray("7", 1, bytes, 3);  // high bits of a short last digit
-    EXPECT_EQ(bytes[0] >> 5, 0x3);
-    BitUtils::convertHexStringToBinArray(nullptr, 5, bytes, 16);  // writes nothing
-    EXPECT_EQ(bytes[1], 0xC0);
+TEST(BitUtils, HexTextToBitsRefusesOtherCharacters) {
+    std::uint8_t bytes[2] = {};
     EXPECT_EQ(thrownMessage<std::runtime_error>(
                   [&] { BitUtils::convertHexStringToBinArray("1g", 2, bytes, 8); }),
               "BitUtils::convertHexStringToBinArray: hexString should contain only hex digits "
@@ -166,33 +204,15 @@ TEST(BitUtils, DecodeSignedNumber) {
     }
 }
 
-TEST(BitUtils, EncodeSignedNumberReadDoubleAndDecimalTexts) {
+TEST(BitUtils, NumberFormatsRefused) {
     using F = NumberFormat;
-    EXPECT_EQ(BitUtils::encodeSignedNumber(5, true, 4, F::TwosComplementNumberFormat), 0b1011U);
-    EXPECT_EQ(BitUtils::encodeSignedNumber(5, true, 4, F::TwosComplementNumberFormatAlt), 0b1011U);
-    EXPECT_EQ(BitUtils::encodeSignedNumber(5, true, 4, F::SignMagnitudeNumberFormat), 0b1101U);
-    EXPECT_EQ(BitUtils::encodeSignedNumber(5, false, 4, F::UnsignedNumberFormat), 5U);
-    EXPECT_EQ(BitUtils::encodeSignedNumber(0, true, 8, F::SignMagnitudeNumberFormat), 0x80U);
     for (const F f : {F::UnsignedNumberFormat, F::UnknownNumberFormat}) {
         EXPECT_EQ(thrownMessage<std::runtime_error>(
                       [&] { (void)BitUtils::encodeSignedNumber(5, true, 4, f); }),
                   "encodeSignedNumber: only signed number formats are supported");
     }
-    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, F::UnsignedNumberFormat), 127.5);
-    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, F::UnsignedNumberFormatAlt), 127.5);
-    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, F::TwosComplementNumberFormat), -0.5);
-    EXPECT_EQ(BitUtils::readDouble(0xFF, 0.5, 8, F::SignMagnitudeNumberFormat), -63.5);
-    EXPECT_EQ(BitUtils::readDouble(~0ULL, 1.0, 64, F::UnsignedNumberFormat),
-              18446744073709551616.0);
     EXPECT_THROW((void)BitUtils::readDouble(0xFF, 1.0, 8, F::UnknownNumberFormat),
                  std::runtime_error);
-    EXPECT_EQ(BitUtils::unsignedToString(0).view(), "0");
-    EXPECT_EQ(BitUtils::unsignedToString(1234567890).view(), "1234567890");
-    EXPECT_EQ(BitUtils::unsignedToString(~0ULL).view(), "18446744073709551615");
-    EXPECT_EQ(BitUtils::signedToString(0).view(), "0");
-    EXPECT_EQ(BitUtils::signedToString(-7).view(), "-7");
-    EXPECT_EQ(BitUtils::signedToString(INT32_MAX).view(), "2147483647");
-    EXPECT_EQ(BitUtils::signedToString(INT32_MIN).view(), "-2147483648");
 }
 
 TEST(LimitedSizeString, RefusesTheCharacterPastItsCapacity) {

@@ -1,11 +1,11 @@
-#include "support/NaiveLegacyListing.h"
+#include "baseline/NaiveLegacyListing.h"
 
 #include <cstdio>
 #include <cstring>
 #include <stdexcept>
 #include <vector>
 
-namespace ZeltNavMsg::Testing {
+namespace ZeltNavMsg::Baseline {
 
 namespace {
 
@@ -149,4 +149,4 @@ std::string naiveLegacyListing(const Legacy::SubframeIf& signal, std::int32_t su
     return converted;
 }
 
-}  // namespace ZeltNavMsg::Testing
+}  // namespace ZeltNavMsg::Baseline

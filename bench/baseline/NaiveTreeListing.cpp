@@ -1,4 +1,4 @@
-#include "support/NaiveTreeListing.h"
+#include "baseline/NaiveTreeListing.h"
 
 #include <algorithm>
 #include <cinttypes>
@@ -8,7 +8,7 @@
 
 #include "fields/BitFieldValueDef.h"
 
-namespace ZeltNavMsg::Testing {
+namespace ZeltNavMsg::Baseline {
 
 namespace {
 
@@ -117,4 +117,4 @@ std::string naiveTreeListing(const BitStructDef& root, int frameBits, std::strin
     return text;
 }
 
-}  // namespace ZeltNavMsg::Testing
+}  // namespace ZeltNavMsg::Baseline
