@@ -82,6 +82,25 @@ TEST(BitBuffer, ChecksPointerBeforeCount) {
     EXPECT_EQ(ZeltNavMsg::ConstBitBuffer(&byte, 1).bitsCount(), 1);
 }
 
+// Bits past the end stay zero: the last byte after fill(), the others all `value`.
+template <int N>
+std::uint8_t lastByteAfterFill(std::uint8_t value) {
+    ZeltNavMsg::BinArray<N> a;
+    a.fill(value);
+    for (int i = 0; i + 1 < ZeltNavMsg::BinArray<N>::kBytes; ++i) {
+        EXPECT_EQ(a.data()[i], value);
+    }
+    return a.data()[ZeltNavMsg::BinArray<N>::kBytes - 1];
+}
+
+TEST(BinArray, FillKeepsBitsPastTheEndZero) {
+    EXPECT_EQ(lastByteAfterFill<883>(0xFF), 0xE0);
+    EXPECT_EQ(lastByteAfterFill<878>(0xFF), 0xFC);
+    EXPECT_EQ(lastByteAfterFill<292>(0xFF), 0xF0);
+    EXPECT_EQ(lastByteAfterFill<288>(0xFF), 0xFF);
+    EXPECT_EQ(lastByteAfterFill<878>(0x01), 0x00);
+}
+
 TEST(BinArray, CopyBitsChecksSourceRangeThenDestinationThenBuffer) {
     ZeltNavMsg::BinArray<16> a;
     a.fill(0);
@@ -93,6 +112,24 @@ TEST(BinArray, CopyBitsChecksSourceRangeThenDestinationThenBuffer) {
     EXPECT_THROW(a.copyBits(-1, 0, 3, src, 16), std::invalid_argument);  // destination range
     EXPECT_THROW(a.copyBits(0, 0, 3, nullptr, 16), std::runtime_error);  // source buffer
     EXPECT_THROW(a.copyBits(0, 0, 3, src, 0), std::runtime_error);
+}
+
+TEST(BitsNumberingSchemeConvertor, ConvertsAndMirrors) {
+    using S = ZeltNavMsg::BitsNumberingScheme;
+    const struct {
+        S scheme;
+        int first, last, expectFirst, expectLast;
+    } cases[] = {
+        {S::FromFirstBitZeroBased, 1, 8, 1, 8},    {S::FromFirstBitOneBased, 1, 8, 0, 7},
+        {S::FromLastBitOneBased, 1, 8, 292, 299},  {S::FromLastBitZeroBased, 1, 8, 291, 298},
+        {S::FromLastBitZeroBased, 0, 299, 0, 299}, {S::FromLastBitOneBased, 300, 300, 0, 0},
+    };
+    for (const auto& c : cases) {
+        std::vector<BitRange> ranges{BitRange(Init::FirstAndLastBit, c.first, c.last)};
+        ZeltNavMsg::BitsNumberingSchemeConvertor(c.scheme, 300).convert(ranges);
+        EXPECT_EQ(ranges[0], BitRange(Init::FirstAndLastBit, c.expectFirst, c.expectLast))
+            << static_cast<int>(c.scheme) << ": " << c.first << ".." << c.last;
+    }
 }
 
 TEST(BitsNumberingSchemeConvertor, ErrorsKeepEarlierRangesConverted) {
@@ -159,6 +196,30 @@ TEST(BitUtils, WritesEveryOffsetAndWidthTouchingNothingElse) {
                 ASSERT_EQ(bitAt(bytes, i), expected)
                     << "first " << first << " width " << width << " bit " << i;
             }
+        }
+    }
+}
+
+// Whole bytes at once when both starts are byte-aligned and more than 64 bits remain,
+// then 64-bit chunks; only the destination range's width counts.
+TEST(BitUtils, CopyBitsMovesExactlyTheRange) {
+    const struct {
+        int dstFirst, srcFirst, count;
+    } cases[] = {{0, 0, 72}, {8, 16, 64}, {3, 0, 72}, {0, 5, 130}, {17, 9, 1}, {0, 0, 200}};
+    for (const auto& c : cases) {
+        const std::vector<std::uint8_t> src = randomBytes(32, 3);
+        std::vector<std::uint8_t> dst = randomBytes(32, 4);
+        const std::vector<std::uint8_t> before = dst;
+        BitUtils::copyBits(BitRange(Init::FirstBitAndCount, c.dstFirst, c.count),
+                           ZeltNavMsg::BitBuffer(dst.data(), 1),
+                           BitRange(Init::FirstBitAndCount, c.srcFirst, 1),
+                           ZeltNavMsg::ConstBitBuffer(src.data(), 1));
+        for (int i = 0; i < 256; ++i) {
+            const bool inside = i >= c.dstFirst && i < c.dstFirst + c.count;
+            ASSERT_EQ(bitAt(dst, i),
+                      inside ? bitAt(src, c.srcFirst + i - c.dstFirst) : bitAt(before, i))
+                << "copy to " << c.dstFirst << " from " << c.srcFirst << " of " << c.count
+                << ", bit " << i;
         }
     }
 }

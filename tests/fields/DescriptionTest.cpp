@@ -88,4 +88,52 @@ TEST(Description, OddShapesPrintAsThePlainListing) {
     }
 }
 
+// The worked example: a subframe whose specific data is one structure.
+TEST(Description, WorkedExample) {
+    BitStructDef root(nullptr, "IRNSS Subframe", bits(0, 32), {});
+    const Unsigned subframeId(&root, "Subframe ID", bits(0, 2));
+    const Unsigned spare(&root, "Spare", bits(2, 6), {flag(Hidden)});
+    BitStructDef data(&root, "Subframe specific data", bits(8, 24), {});
+    const Unsigned week(&data, "week", bits(0, 10), {unit("WN")});
+    const Real idot(&data, "IDOT", bits(10, 14), kSignedReal, {pow2(-43), unit("pi/s")});
+    BinArray<32> frame;
+    frame.fill(0);
+    subframeId.writeRaw(frame.buffer(), 1);
+    spare.writeRaw(frame.buffer(), 0x3F);
+    week.writeRaw(frame.buffer(), 512);
+    idot.writeRaw(frame.buffer(), 0x3FFF);
+    EXPECT_EQ(BitStructDef::makeReadableDescription(root, frame),
+              "IRNSS Subframe\n"
+              "\tSubframe ID: 1\n"
+              "\tSubframe specific data\n"
+              "\t\tweek: 512 WN, Raw hex:200\n"
+              "\t\tIDOT: -1.13687e-13 pi/s, Raw hex:3FFF");
+}
+
+// Written out by hand, not only against the plain listing: a transparent structure has
+// no heading and lists its members at its parent's level; one with nothing visible still
+// takes its line break (an empty line); an empty structure is its heading alone; an
+// unnamed structure at level 0 has an empty heading, so no line break follows it.
+TEST(Description, TransparentEmptyAndUnnamedStructures) {
+    BitStructDef frame(nullptr, "Frame", bits(0, 16), {});
+    BitStructDef message(&frame, "Message", bits(0, 16), {});
+    const Unsigned first(&message, "WN", bits(0, 4));
+    BitStructDef common(&message, "Common fields", bits(4, 8), {flag(Transparent)});
+    const Unsigned inCommon(&common, "SatType", bits(0, 2));
+    const Unsigned alsoInCommon(&common, "DIF", bits(2, 1));
+    BitStructDef nothing(&message, "Nothing", bits(12, 4), {flag(Transparent)});
+    const Unsigned hidden(&nothing, "Rev", bits(0, 4), {flag(Hidden)});
+    BitStructDef empty(&message, "Empty", bits(12, 4), {});
+    const Unsigned last(&message, "IODE", bits(12, 4));
+    BinArray<16> frameBits;
+    frameBits.fill(0);
+    EXPECT_EQ(frame.makeReadableDescription(frameBits.buffer(), 0),
+              "Frame\n\tMessage\n\t\tWN: 0\n\t\tSatType: 0\n\t\tDIF: 0\n\n\t\tEmpty\n"
+              "\t\tIODE: 0");
+    BitStructDef unnamed(nullptr, "", bits(0, 16), {});
+    const Unsigned member(&unnamed, "x", bits(0, 4));
+    EXPECT_EQ(unnamed.makeReadableDescription(frameBits.buffer(), 0), "\tx: 0");
+    EXPECT_EQ(unnamed.makeReadableDescription(frameBits.buffer(), 1), "\t\n\t\tx: 0");
+}
+
 }  // namespace

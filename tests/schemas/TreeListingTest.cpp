@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <random>
 #include <set>
 #include <string>
@@ -17,6 +18,7 @@
 #include "schemas/gps_cnav2/FrameDef.h"
 #include "schemas/irnss/SubframeDef.h"
 #include "support/RealData.h"
+#include "support/SubframeBits.h"
 #include "zeltnavmsg/NavMessageDecoder.h"
 
 namespace {
@@ -54,6 +56,47 @@ TEST(TreeListing, IrnssUnknownMessageShowsIdAndPrnOnly) {
         expected[7] = "\t\tMessage ID: " + std::to_string(id) + ", Raw hex:" + raw;
         EXPECT_EQ(splitLines(NavMessageDecoder::Decode(MessageFormat::Irnss, 0, 0, hex)), expected)
             << id;
+    }
+}
+
+// The values the interface documents quote, each at its frame position (from bit 1).
+TEST(TreeListing, QuotedValues) {
+    const struct {
+        MessageFormat format;
+        std::vector<std::array<std::uint64_t, 3>> fields;  // first bit, width, value
+        std::vector<std::string> lines;                    // consecutive lines of the listing
+    } cases[] = {
+        {MessageFormat::BeidouCNav1,  // "SOH" counts 18 s
+         {{7, 8, 200}},
+         {"\tSubframe 1", "\t\tPRN: 0, Raw hex:00", "\t\tSOH: 3600, Raw hex:C8"}},
+        {MessageFormat::BeidouCNav1,  // page 1: "alpha1", 10 bits of 1/8 TECu, all ones
+         {{615, 6, 1}, {657, 10, 0x3FF}},
+         {"\t\t\tIonospheric delay correction model parameters",
+          "\t\t\t\talpha1: 127.875 TECu, Raw hex:3FF", "\t\t\t\talpha2: 0 TECu, Raw hex:00"}},
+        {MessageFormat::BeidouCNav2,  // "SOW" counts 3 s
+         {{13, 18, 100000}},
+         {"B-CNAV2 Frame", "\tPRN: 0, Raw hex:00", "\tMesType: 0, Raw hex:00",
+          "\tSOW: 300000, Raw hex:186A0", "\tCRC: 000000"}},
+        {MessageFormat::BeidouCNav2,  // message 30: "alpha1" all ones
+         {{7, 6, 30}, {146, 10, 0x3FF}},
+         {"\t\tIonospheric delay correction model parameters",
+          "\t\t\talpha1: 127.875 TECu, Raw hex:3FF", "\t\t\talpha2: 0 TECu, Raw hex:00"}},
+        {MessageFormat::BeidouCNav2,  // message 10: the common fields without a heading
+         {{7, 6, 10}, {31, 13, 1052}, {44, 10, 0b101'1001'110U}},
+         {"\tMessage type 10 data", "\t\tWN: 1052, Raw hex:041C", "\t\tDIF (B2a): 1",
+          "\t\tSIF (B2a): 0", "\t\tAIF (B2a): 1", "\t\tSISMAI: 9", "\t\tDIF (B1C): 1",
+          "\t\tSIF (B1C): 1", "\t\tAIF (B1C): 0", "\t\tIODE: 0, Raw hex:00"}},
+    };
+    for (const auto& c : cases) {
+        SubframeBits frame(c.format == MessageFormat::BeidouCNav1 ? 878 : 288);
+        for (const auto& [first, width, value] : c.fields) {
+            frame.put(static_cast<int>(first), static_cast<int>(width), value);
+        }
+        const std::vector<std::string> lines =
+            splitLines(NavMessageDecoder::Decode(c.format, 0, 0, frame.hex()));
+        const auto at = std::find(lines.begin(), lines.end(), c.lines.front());
+        ASSERT_LE(c.lines.size(), static_cast<std::size_t>(lines.end() - at)) << c.lines.front();
+        expectSameLines({at, at + static_cast<std::ptrdiff_t>(c.lines.size())}, c.lines);
     }
 }
 
@@ -177,6 +220,24 @@ TEST(TreeLayout, EveryStructureIsTiledByItsMembers) {
     for (const TreeFormat& f : kTrees) {
         EXPECT_EQ(f.root->totalBitsCount(), f.bits);
         expectTiled(*f.root);
+    }
+    // The BeiDou CNAV data blocks as B-CNAV1 nests them: tiled (above), and their sizes.
+    const auto& sf2 = BeidouCNav1::beidouCNav1FrameDef().subframe2;
+    const auto& sf3 = BeidouCNav1::beidouCNav1FrameDef().subframe3;
+    const std::pair<const BitStructDef*, int> blocks[] = {
+        {&sf2.ephemerisI, 203},
+        {&sf2.ephemerisII, 222},
+        {&sf2.clockCorrection, 69},
+        {&sf3.page1.ionosphericModel, 74},
+        {&sf3.page1.bdtUtcParameters, 97},
+        {&sf3.page1.sisaiOc, 22},
+        {&sf3.page3.eopParameters, 138},
+        {&sf3.page3.bgtoParameters, 68},
+        {&sf3.page2.reducedAlmanacs[0], 38},
+        {&sf3.page4.midiAlmanac, 156},
+    };
+    for (const auto& [block, size] : blocks) {
+        EXPECT_EQ(block->totalBitsCount(), size) << block->name();
     }
 }
 
