@@ -11,6 +11,8 @@
 
 namespace ZeltNavMsg {
 
+class DecodedMessage;  // zeltnavmsg/DecodedMessage.h
+
 // Signal of a satellite system. The numeric values are part of the interface.
 enum class SignalType : std::int32_t {
     GpsL1CA = 0,
@@ -101,6 +103,16 @@ class ZELTNAVMSG_API NavMessageDecoder {
     // 38 bytes of a 300-bit subframe format.
     static std::string Decode(MessageFormat format, std::int32_t subframeNumber,
                               std::int32_t pageNumber, std::string_view hexString);
+
+    // Every field of the same message as data (zeltnavmsg/DecodedMessage.h), from the
+    // same walk as the listing, with the interface documents' values. The input is
+    // checked as Decode checks it: the same errors, messages and order.
+    static DecodedMessage DecodeFields(MessageFormat format, std::int32_t subframeNumber,
+                                       std::int32_t pageNumber, std::string_view hexString);
+    // The same into `out`, reusing its storage.
+    static void DecodeFields(MessageFormat format, std::int32_t subframeNumber,
+                             std::int32_t pageNumber, std::string_view hexString,
+                             DecodedMessage& out);
 };
 
 }  // namespace ZeltNavMsg
