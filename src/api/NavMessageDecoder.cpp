@@ -192,7 +192,8 @@ void NavMessageDecoder::DecodeFields(MessageFormat format, std::int32_t subframe
         throw std::out_of_range("Decode: hex string is empty");
     }
     Records::MessageWriter writer(out);
-    const auto bitCount = static_cast<std::int32_t>(std::min<std::size_t>(digits.size(), 1U << 28) * 4);
+    const auto bitCount =
+        static_cast<std::int32_t>(std::min<std::size_t>(digits.size(), 1U << 28) * 4);
     switch (format) {
         case MessageFormat::GpsCNav2:
         case MessageFormat::BeidouCNav1:
@@ -204,7 +205,8 @@ void NavMessageDecoder::DecodeFields(MessageFormat format, std::int32_t subframe
             const auto frameBytes = static_cast<std::size_t>((frameBits + 7) / 8);
             Detail::hexDigitsToBytes(digits, writer.bits(), frameBytes);
             if (frameBits % 8 != 0) {
-                writer.bits()[frameBytes - 1] &= static_cast<std::uint8_t>(0xFF00U >> (frameBits % 8));
+                writer.bits()[frameBytes - 1] &=
+                    static_cast<std::uint8_t>(0xFF00U >> (frameBits % 8));
             }
             Records::decodeTree(format, writer);
             return;

@@ -59,10 +59,9 @@ inline bool standsInForPresentVariant(const BitStructDef& def, const BitFieldDef
         }
         return false;
     };
-    return std::any_of(def.children().begin(), def.children().end(),
-                       [&](const BitFieldDef* child) {
-                           return child->containerId() == active && overlaps(*child, hidden);
-                       });
+    return std::any_of(def.children().begin(), def.children().end(), [&](const BitFieldDef* child) {
+        return child->containerId() == active && overlaps(*child, hidden);
+    });
 }
 
 }  // namespace Detail

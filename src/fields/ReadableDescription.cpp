@@ -32,8 +32,8 @@ class TextSink {
     // Room a value line takes, tabs aside: label, value text, units, ", Raw hex:"
     // and the digits, with the slack of chunked copies.
     static std::size_t maxValueLine(const BitFieldValueDef& field) noexcept {
-        return field.label().size() + BitFieldValueDef::kMaxValueText +
-               field.unitsSuffix().size() + kRawHexTag + 24 + Text::kCopySlack;
+        return field.label().size() + BitFieldValueDef::kMaxValueText + field.unitsSuffix().size() +
+               kRawHexTag + 24 + Text::kCopySlack;
     }
 
     // What the line shows after the label: the value and its units, followed by the

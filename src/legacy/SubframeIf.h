@@ -55,8 +55,8 @@ class SubframeIf {
     // lines only, or every planned line when `withUnprinted`. The one selection rule
     // of the listing and of the records. Needs a plan.
     template <class Fn>
-    void forEachLine(const subframe_t& sf, std::int32_t layoutId, bool rawPass,
-                     bool withUnprinted, Fn&& fn) const {
+    void forEachLine(const subframe_t& sf, std::int32_t layoutId, bool rawPass, bool withUnprinted,
+                     Fn&& fn) const {
         for (const PlannedRun& run : plan_->runs) {
             if (run.rawPass != rawPass || (!run.printed && !withUnprinted) ||
                 !selected(sf, layoutId, run.layoutId, run.subframe, run.page)) {

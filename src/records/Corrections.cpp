@@ -76,9 +76,8 @@ std::span<const Correction> corrections() noexcept {
     return kCorrections;
 }
 
-const Correction* findCorrection(MessageFormat format, std::string_view path,
-                                 std::string_view name, std::string_view listingUnits,
-                                 double listingScale) noexcept {
+const Correction* findCorrection(MessageFormat format, std::string_view path, std::string_view name,
+                                 std::string_view listingUnits, double listingScale) noexcept {
     for (const Correction& c : kCorrections) {
         if ((c.formats & bit(format)) == 0) {
             continue;

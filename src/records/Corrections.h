@@ -36,8 +36,7 @@ struct Correction {
 // The correction of a field, if any. `listingUnits` and `listingScale` let the angle
 // rule recognise a scale of 2^n x pi.
 [[nodiscard]] const Correction* findCorrection(MessageFormat format, std::string_view path,
-                                               std::string_view name,
-                                               std::string_view listingUnits,
+                                               std::string_view name, std::string_view listingUnits,
                                                double listingScale) noexcept;
 
 // Whether QZSS subframes 4 and 5 are corrected; and the QZSS layout id the SV ID of

@@ -11,8 +11,7 @@
 namespace ZeltNavMsg {
 
 bool DecodedMessage::ok() const noexcept {
-    return std::all_of(checks_.begin(), checks_.end(),
-                       [](const CheckResult& c) { return c.ok(); });
+    return std::all_of(checks_.begin(), checks_.end(), [](const CheckResult& c) { return c.ok(); });
 }
 
 const DecodedField* DecodedMessage::find(std::string_view key) const noexcept {
@@ -41,8 +40,8 @@ std::string DecodedMessage::listingText(const DecodedField& field) const {
     } else {
         // The listing reads the subframe padded with zero bytes.
         std::uint8_t padded[Legacy::kPaddedDataBytes] = {};
-        std::copy_n(source->rawPass ? received_.data() : bits_.data(), Legacy::subframe_t::kDataBytes,
-                    padded);
+        std::copy_n(source->rawPass ? received_.data() : bits_.data(),
+                    Legacy::subframe_t::kDataBytes, padded);
         Legacy::appendLineValue(*source->legacyLine, padded, text);
     }
     return text.str();

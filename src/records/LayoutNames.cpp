@@ -170,9 +170,9 @@ void appendTreeLayout(MessageFormat format, ConstBitBuffer bits,
                            BeidouCNav1::beidouCNav1FrameDef().subframe3.pageId.read(bits)));
             break;
         case F::BeidouCNav2:
-            appendHead(out, "Message type ",
-                       static_cast<std::int64_t>(
-                           BeidouCNav2::beidouCNav2FrameDef().mesType.read(bits)));
+            appendHead(
+                out, "Message type ",
+                static_cast<std::int64_t>(BeidouCNav2::beidouCNav2FrameDef().mesType.read(bits)));
             break;
         case F::Irnss: {
             const Irnss::SubframeDef& def = Irnss::irnssSubframeDef();

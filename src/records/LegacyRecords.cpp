@@ -21,9 +21,9 @@ namespace ZeltNavMsg::Records {
 namespace {
 
 using Legacy::PlannedLine;
+using Legacy::subframe_t;
 using Legacy::SubframeFieldInfo;
 using Legacy::SubframeIf;
-using Legacy::subframe_t;
 
 // Up to 57 bits of the decoded subframe: (load64(byte) << shift) >> (64 - length).
 struct Piece {
@@ -110,8 +110,8 @@ class LegacyPlan {
             addLine(i, plan.lines[i], signal.fields()[plan.lines[i].entry], map);
         }
         for (LegacyPart& part : parts_) {
-            part.info.bits =
-                std::span<const BitSegment>(segments_).subspan(part.firstSegment, part.segmentCount);
+            part.info.bits = std::span<const BitSegment>(segments_).subspan(part.firstSegment,
+                                                                            part.segmentCount);
         }
     }
 
@@ -123,8 +123,9 @@ class LegacyPlan {
         for (std::uint32_t p = line.firstPart; p < line.firstPart + line.partCount; ++p) {
             const LegacyPart& part = parts_[p];
             const std::uint64_t raw = readPart(part, bits);
-            writer.add(part.info, raw,
-                       BitUtils::readDouble(raw, part.rule.scale, part.rule.width, part.rule.format));
+            writer.add(
+                part.info, raw,
+                BitUtils::readDouble(raw, part.rule.scale, part.rule.width, part.rule.format));
         }
     }
 
@@ -133,12 +134,11 @@ class LegacyPlan {
     [[nodiscard]] std::int64_t findLine(const subframe_t& sf, std::int32_t layoutId,
                                         std::string_view name) const {
         std::int64_t found = -1;
-        signal_.forEachLine(sf, layoutId, false, true,
-                            [&](std::size_t i, const PlannedLine& line) {
-                                if (found < 0 && signal_.fields()[line.entry].name == name) {
-                                    found = static_cast<std::int64_t>(i);
-                                }
-                            });
+        signal_.forEachLine(sf, layoutId, false, true, [&](std::size_t i, const PlannedLine& line) {
+            if (found < 0 && signal_.fields()[line.entry].name == name) {
+                found = static_cast<std::int64_t>(i);
+            }
+        });
         return found;
     }
     [[nodiscard]] std::uint64_t readLine(std::size_t lineIndex, const std::uint8_t* bits) const {
@@ -188,8 +188,8 @@ class LegacyPlan {
                 bits.push_back({entry.segmentStart[s], entry.segmentLength[s]});
             }
         }
-        if (const Correction* c = findCorrection(format_, info.path, info.name, listingUnits,
-                                                 entry.scale)) {
+        if (const Correction* c =
+                findCorrection(format_, info.path, info.name, listingUnits, entry.scale)) {
             info.corrected = true;
             info.kind = c->valueKind;
             info.units = c->units;
@@ -317,8 +317,8 @@ void decodeSubframe(MessageFormat format, const subframe_t& sf, MessageWriter& w
         (sf.subframe == 4 || sf.subframe == 5)) {
         const std::int64_t line = plan.findLine(sf, layoutId, "sv_id");
         if (line >= 0) {
-            const auto id =
-                static_cast<std::int32_t>(plan.readLine(static_cast<std::size_t>(line), writer.bits()));
+            const auto id = static_cast<std::int32_t>(
+                plan.readLine(static_cast<std::size_t>(line), writer.bits()));
             const std::int32_t byId = qzssLayoutOfSvId(id);
             if (byId != 0) {
                 layoutId = byId;

@@ -48,8 +48,8 @@ class TreePlan {
         // The segment store is complete: point each record at its part of it.
         for (TreeEntry& entry : entries_) {
             for (TreePart& part : entry.parts) {
-                part.info.bits = std::span<const BitSegment>(segments_).subspan(
-                    part.firstSegment, part.segmentCount);
+                part.info.bits = std::span<const BitSegment>(segments_).subspan(part.firstSegment,
+                                                                                part.segmentCount);
             }
         }
     }
@@ -195,7 +195,8 @@ const TreePlan& planOf(MessageFormat format) {
             return plan;
         }
         case MessageFormat::Irnss: {
-            static const TreePlan plan(format, Irnss::irnssSubframeDef(), Irnss::SubframeDef::kBits);
+            static const TreePlan plan(format, Irnss::irnssSubframeDef(),
+                                       Irnss::SubframeDef::kBits);
             return plan;
         }
         default:
@@ -235,8 +236,8 @@ class RecordSink {
         }
         const auto& field = static_cast<const BitFieldValueDef&>(def);
         for (const TreePart& part : plan_.entry(def).parts) {
-            const std::uint64_t raw =
-                part.ranges.empty() ? field.readRaw(buffer) : BitUtils::readBits(part.ranges, buffer);
+            const std::uint64_t raw = part.ranges.empty() ? field.readRaw(buffer)
+                                                          : BitUtils::readBits(part.ranges, buffer);
             writer_.add(part.info, raw, valueOf(part.rule, raw));
         }
     }

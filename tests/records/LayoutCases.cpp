@@ -54,8 +54,8 @@ void addFrames(std::vector<LayoutCase>& out, std::mt19937* rng, MessageFormat fo
     for (const std::uint64_t value : values) {
         std::vector<std::uint8_t> bytes = randomBytes(rng, static_cast<std::size_t>(bits + 7) / 8);
         select(BitBuffer(bytes.data(), bits), value);
-        out.push_back({format, 0, 0, bytesToHex(bytes, static_cast<std::size_t>(bits + 3) / 4),
-                       bits});
+        out.push_back(
+            {format, 0, 0, bytesToHex(bytes, static_cast<std::size_t>(bits + 3) / 4), bits});
     }
 }
 
@@ -94,28 +94,28 @@ std::vector<LayoutCase> layoutCases(std::mt19937* rng) {
     addSubframes(cases, rng, F::BeidouD2, 4, 0, 0);
     addSubframes(cases, rng, F::BeidouD2, 5, 1, 120);
 
-    addFrames(
-        cases, rng, F::GpsCNav2, GpsCNav2::FrameDef::kBits,
-        [](BitBuffer b, std::uint64_t v) { GpsCNav2::gpsCNav2FrameDef().subframe3.pageId.write(b, v); },
-        {0, 1, 2, 3, 4, 5, 6, 7, 8, 63});
-    addFrames(
-        cases, rng, F::BeidouCNav1, BeidouCNav1::FrameDef::kBits,
-        [](BitBuffer b, std::uint64_t v) {
-            BeidouCNav1::beidouCNav1FrameDef().subframe3.pageId.write(b, v);
-        },
-        {0, 1, 2, 3, 4, 5});
-    addFrames(
-        cases, rng, F::BeidouCNav2, BeidouCNav2::FrameDef::kBits,
-        [](BitBuffer b, std::uint64_t v) { BeidouCNav2::beidouCNav2FrameDef().mesType.write(b, v); },
-        {0, 10, 11, 30, 31, 32, 33, 34, 40, 63});
-    addFrames(
-        cases, rng, F::Irnss, Irnss::SubframeDef::kBits,
-        [](BitBuffer b, std::uint64_t v) {
-            const Irnss::SubframeDef& def = Irnss::irnssSubframeDef();
-            def.subframeId.write(b, v >> 8);
-            def.messageData.messageId.write(b, v & 0xFF);
-        },
-        {0x000, 0x100, 0x200, 0x205, 0x207, 0x209, 0x20B, 0x20E, 0x212, 0x21A, 0x31A, 0x23F});
+    addFrames(cases, rng, F::GpsCNav2, GpsCNav2::FrameDef::kBits,
+              [](BitBuffer b, std::uint64_t v) {
+                  GpsCNav2::gpsCNav2FrameDef().subframe3.pageId.write(b, v);
+              },
+              {0, 1, 2, 3, 4, 5, 6, 7, 8, 63});
+    addFrames(cases, rng, F::BeidouCNav1, BeidouCNav1::FrameDef::kBits,
+              [](BitBuffer b, std::uint64_t v) {
+                  BeidouCNav1::beidouCNav1FrameDef().subframe3.pageId.write(b, v);
+              },
+              {0, 1, 2, 3, 4, 5});
+    addFrames(cases, rng, F::BeidouCNav2, BeidouCNav2::FrameDef::kBits,
+              [](BitBuffer b, std::uint64_t v) {
+                  BeidouCNav2::beidouCNav2FrameDef().mesType.write(b, v);
+              },
+              {0, 10, 11, 30, 31, 32, 33, 34, 40, 63});
+    addFrames(cases, rng, F::Irnss, Irnss::SubframeDef::kBits,
+              [](BitBuffer b, std::uint64_t v) {
+                  const Irnss::SubframeDef& def = Irnss::irnssSubframeDef();
+                  def.subframeId.write(b, v >> 8);
+                  def.messageData.messageId.write(b, v & 0xFF);
+              },
+              {0x000, 0x100, 0x200, 0x205, 0x207, 0x209, 0x20B, 0x20E, 0x212, 0x21A, 0x31A, 0x23F});
     return cases;
 }
 

@@ -60,7 +60,8 @@ TEST(RecordCoverage, EveryLayoutOfEveryFormat) {
     std::mt19937 rng(12);
     for (std::mt19937* source : {static_cast<std::mt19937*>(nullptr), &rng}) {
         for (const Testing::LayoutCase& c : Testing::layoutCases(source)) {
-            const DecodedMessage m = NavMessageDecoder::DecodeFields(c.format, c.subframe, c.page, c.hex);
+            const DecodedMessage m =
+                NavMessageDecoder::DecodeFields(c.format, c.subframe, c.page, c.hex);
             EXPECT_EQ(coverageFaults(m, c.layoutBits), "") << m.layout();
         }
     }

@@ -44,8 +44,7 @@ std::string listingMismatch(const Testing::LayoutCase& c) {
             return "record " + std::string(f.path()) + " has no line left";
         }
         const std::string& line = lines[next++];
-        if (!line.ends_with(tail) ||
-            line.find_first_not_of(" \t") != line.size() - tail.size()) {
+        if (!line.ends_with(tail) || line.find_first_not_of(" \t") != line.size() - tail.size()) {
             return "line '" + line + "' against record '" + tail + "'";
         }
     }
@@ -67,7 +66,8 @@ TEST(RecordListing, EachPrintedRecordHasTheTextOfItsLine) {
     }
     int compared = 0;
     for (const Testing::LayoutCase& c : cases) {
-        const DecodedMessage m = NavMessageDecoder::DecodeFields(c.format, c.subframe, c.page, c.hex);
+        const DecodedMessage m =
+            NavMessageDecoder::DecodeFields(c.format, c.subframe, c.page, c.hex);
         // A QZSS page decoded by its SV ID has another layout than the listing's, and a
         // line feed character splits a listing line: neither pairs line by line.
         const bool byId = m.layout().find("(SV ID") != std::string_view::npos;

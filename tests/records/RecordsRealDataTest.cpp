@@ -23,8 +23,8 @@ using Testing::kPi;
 const DecodedField* record(const DecodedMessage& m, std::string_view key) {
     for (const DecodedField& f : m.fields()) {
         const std::string_view p = f.path();
-        if (p == key || (p.size() > key.size() && p.ends_with(key) &&
-                         p[p.size() - key.size() - 1] == '.')) {
+        if (p == key ||
+            (p.size() > key.size() && p.ends_with(key) && p[p.size() - key.size() - 1] == '.')) {
             return &f;
         }
     }
@@ -45,10 +45,9 @@ class Checker {
             ADD_FAILURE() << r_.where << ": no record " << key << " in " << m_.layout();
             return;
         }
-        const double tolerance =
-            std::max(std::max(std::fabs(truth), std::fabs(magnitude)) *
-                         (0.5 * std::pow(10.0, 1 - digits) + 1e-11),
-                     1e-300);
+        const double tolerance = std::max(std::max(std::fabs(truth), std::fabs(magnitude)) *
+                                              (0.5 * std::pow(10.0, 1 - digits) + 1e-11),
+                                          1e-300);
         EXPECT_NEAR(f->value(), truth, tolerance) << r_.where << ": " << key;
         ++compared;
     }
@@ -91,19 +90,50 @@ double truthValue(const std::string& text) {
 }
 
 // Names the ground truth and the records share, and those that differ in name only.
-const std::map<std::string, std::string> kLNavNames = {
-    {"TGD", "tgd"}, {"toc", "toc"}, {"af2", "af2"}, {"af1", "af1"}, {"af0", "af0"},
-    {"Crs", "crs"}, {"Cuc", "cuc"}, {"Cus", "cus"}, {"Cic", "cic"}, {"Cis", "cis"},
-    {"Crc", "crc"}, {"e", "e"}, {"toe", "toe"}, {"toa", "toa"}, {"A0", "A0"},
-    {"A1", "A1"}, {"tot", "tot"}, {"alpha0", "alfa0"}, {"alpha1", "alfa1"},
-    {"alpha2", "alfa2"}, {"alpha3", "alfa3"}, {"beta0", "beta0"}, {"beta1", "beta1"},
-    {"beta2", "beta2"}, {"beta3", "beta3"}, {"WN", "wn"}, {"L2code", "cap"}, {"URA", "ura"},
-    {"SVhealth", "sv_health"}, {"IODC", "iodc"}, {"IODE", "iode"}, {"fit", "fit"},
-    {"health", "sv_health"}, {"WNt", "wnt"}, {"dtLS", "dtls"}, {"WNLSF", "wnlsf"},
-    {"DN", "dn"}, {"dtLSF", "dtlsf"}, {"AI", "AI"}, {"WNa", "wna"}, {"AODO", "aodo"}};
-const std::map<std::string, std::string> kLNavAngles = {
-    {"dn", "deltan"}, {"M0", "m0"}, {"OMEGA0", "omega0"}, {"omega", "w"},
-    {"OMEGAdot", "omegadot"}, {"IDOT", "idot"}};
+const std::map<std::string, std::string> kLNavNames = {{"TGD", "tgd"},
+                                                       {"toc", "toc"},
+                                                       {"af2", "af2"},
+                                                       {"af1", "af1"},
+                                                       {"af0", "af0"},
+                                                       {"Crs", "crs"},
+                                                       {"Cuc", "cuc"},
+                                                       {"Cus", "cus"},
+                                                       {"Cic", "cic"},
+                                                       {"Cis", "cis"},
+                                                       {"Crc", "crc"},
+                                                       {"e", "e"},
+                                                       {"toe", "toe"},
+                                                       {"toa", "toa"},
+                                                       {"A0", "A0"},
+                                                       {"A1", "A1"},
+                                                       {"tot", "tot"},
+                                                       {"alpha0", "alfa0"},
+                                                       {"alpha1", "alfa1"},
+                                                       {"alpha2", "alfa2"},
+                                                       {"alpha3", "alfa3"},
+                                                       {"beta0", "beta0"},
+                                                       {"beta1", "beta1"},
+                                                       {"beta2", "beta2"},
+                                                       {"beta3", "beta3"},
+                                                       {"WN", "wn"},
+                                                       {"L2code", "cap"},
+                                                       {"URA", "ura"},
+                                                       {"SVhealth", "sv_health"},
+                                                       {"IODC", "iodc"},
+                                                       {"IODE", "iode"},
+                                                       {"fit", "fit"},
+                                                       {"health", "sv_health"},
+                                                       {"WNt", "wnt"},
+                                                       {"dtLS", "dtls"},
+                                                       {"WNLSF", "wnlsf"},
+                                                       {"DN", "dn"},
+                                                       {"dtLSF", "dtlsf"},
+                                                       {"AI", "AI"},
+                                                       {"WNa", "wna"},
+                                                       {"AODO", "aodo"}};
+const std::map<std::string, std::string> kLNavAngles = {{"dn", "deltan"},         {"M0", "m0"},
+                                                        {"OMEGA0", "omega0"},     {"omega", "w"},
+                                                        {"OMEGAdot", "omegadot"}, {"IDOT", "idot"}};
 
 // The NMCT's 30 ERD slots hold the SVs other than the transmitting one, by PRN; the
 // ground truth names them by PRN. Slots whose six bits straddle two words (3, 7, ...,
@@ -153,8 +183,9 @@ void checkLNav(Checker& c, const Testing::RealMessage& r) {
             for (std::size_t i = 0; i < quoted.size(); ++i, ++n) {
                 auto ch = static_cast<unsigned char>(quoted[i]);
                 const unsigned code =
-                    ch < 0x80 ? ch
-                              : ((ch & 0x1FU) << 6) | (static_cast<unsigned char>(quoted[++i]) & 0x3FU);
+                    ch < 0x80
+                        ? ch
+                        : ((ch & 0x1FU) << 6) | (static_cast<unsigned char>(quoted[++i]) & 0x3FU);
                 c.expect((n < 9 ? "ch0" : "ch") + std::to_string(n + 1), code);
             }
             EXPECT_EQ(n, 22) << r.where;
@@ -165,17 +196,18 @@ void checkLNav(Checker& c, const Testing::RealMessage& r) {
 }
 
 const std::map<std::string, std::string> kBeidouNames = {
-    {"A0UTC", "a0utc"}, {"A1UTC", "a1utc"}, {"AODC", "iodc"}, {"AODE", "iode"},
-    {"Cic", "cic"}, {"Cis", "cis"}, {"Crc", "crc"}, {"Crs", "crs"}, {"Cuc", "cuc"},
-    {"Cus", "cus"}, {"DN", "dn"}, {"FraID", "fraid"}, {"Pnum", "pnum"}, {"SOW", "sow"},
-    {"SatH1", "sath1"}, {"TGD1", "tgd1"}, {"TGD2", "tgd2"}, {"URAI", "urai"}, {"WN", "wn"},
-    {"WNLSF", "wnlsf"}, {"a0", "a0"}, {"a1", "a1"}, {"a2", "a2"}, {"alpha0", "alpha0"},
-    {"alpha1", "alpha1"}, {"alpha2", "alpha2"}, {"alpha3", "alpha3"}, {"beta0", "beta0"},
-    {"beta1", "beta1"}, {"beta2", "beta2"}, {"beta3", "beta3"}, {"dtLS", "deltatls"},
-    {"dtLSF", "deltatlsf"}, {"e", "e"}, {"sqrtA", "sqrta"}, {"toa", "toa"}, {"toc", "toc"},
-    {"toe", "toe"}};
+    {"A0UTC", "a0utc"},     {"A1UTC", "a1utc"},   {"AODC", "iodc"},     {"AODE", "iode"},
+    {"Cic", "cic"},         {"Cis", "cis"},       {"Crc", "crc"},       {"Crs", "crs"},
+    {"Cuc", "cuc"},         {"Cus", "cus"},       {"DN", "dn"},         {"FraID", "fraid"},
+    {"Pnum", "pnum"},       {"SOW", "sow"},       {"SatH1", "sath1"},   {"TGD1", "tgd1"},
+    {"TGD2", "tgd2"},       {"URAI", "urai"},     {"WN", "wn"},         {"WNLSF", "wnlsf"},
+    {"a0", "a0"},           {"a1", "a1"},         {"a2", "a2"},         {"alpha0", "alpha0"},
+    {"alpha1", "alpha1"},   {"alpha2", "alpha2"}, {"alpha3", "alpha3"}, {"beta0", "beta0"},
+    {"beta1", "beta1"},     {"beta2", "beta2"},   {"beta3", "beta3"},   {"dtLS", "deltatls"},
+    {"dtLSF", "deltatlsf"}, {"e", "e"},           {"sqrtA", "sqrta"},   {"toa", "toa"},
+    {"toc", "toc"},         {"toe", "toe"}};
 const std::map<std::string, std::string> kBeidouAngles = {
-    {"dn", "deltan"}, {"M0", "m0"}, {"OMEGA0", "omega0"}, {"omega", "w"},
+    {"dn", "deltan"},         {"M0", "m0"},    {"OMEGA0", "omega0"}, {"omega", "w"},
     {"OMEGAdot", "omegadot"}, {"IDOT", "idot"}};
 
 void checkBeidou(Checker& c, const Testing::RealMessage& r, bool d2) {
@@ -206,19 +238,43 @@ void checkBeidou(Checker& c, const Testing::RealMessage& r, bool d2) {
 // GPS CNAV-2 and BeiDou B-CNAV1/B-CNAV2.
 void checkFrame(Checker& c, const Testing::RealMessage& r, MessageFormat format) {
     const bool gps = format == MessageFormat::GpsCNav2;
-    const std::map<std::string, std::string> names = {
-        {"toe", "toe"}, {"top", "top"}, {"L1Chealth", "L1C health"}, {"Adot", "dA"},
-        {"e", "e"}, {"Cis", "Cis"}, {"Cic", "Cic"}, {"Crs", "Crs"}, {"Crc", "Crc"},
-        {"Cus", "Cus"}, {"Cuc", "Cuc"}, {"af0", "af0"}, {"af1", "af1"}, {"af2", "af2"},
-        {"TGD", "TGDB2ap"}, {"ISC_L1CD", "ISCL1Cd"}, {"ISC_L1CP", "ISCL1Cp"},
-        {"URA_ED", "URAedINDEX"}, {"ITOW", "ITOW"}, {"TOI", "TOI"}, {"toc", "toc"},
-        {"a0", "a0"}, {"a1", "a1"}, {"a2", "a2"}, {"IODC", "IODC"}, {"IODE", "IODE"},
-        {"TGD_B2ap", "TGDB2ap"}, {"TGD_B1Cp", "TGDB1Cp"}, {"ISC_B2ad", "ISCB2ad"},
-        {"ISC_B1Cd", "ISCB1Cd"}, {"HS", "HS"}, {"SatType", "SatType"},
-        {"SISAI_OE", "SISAIoe"}, {"HOW", "HOW"}};
+    const std::map<std::string, std::string> names = {{"toe", "toe"},
+                                                      {"top", "top"},
+                                                      {"L1Chealth", "L1C health"},
+                                                      {"Adot", "dA"},
+                                                      {"e", "e"},
+                                                      {"Cis", "Cis"},
+                                                      {"Cic", "Cic"},
+                                                      {"Crs", "Crs"},
+                                                      {"Crc", "Crc"},
+                                                      {"Cus", "Cus"},
+                                                      {"Cuc", "Cuc"},
+                                                      {"af0", "af0"},
+                                                      {"af1", "af1"},
+                                                      {"af2", "af2"},
+                                                      {"TGD", "TGDB2ap"},
+                                                      {"ISC_L1CD", "ISCL1Cd"},
+                                                      {"ISC_L1CP", "ISCL1Cp"},
+                                                      {"URA_ED", "URAedINDEX"},
+                                                      {"ITOW", "ITOW"},
+                                                      {"TOI", "TOI"},
+                                                      {"toc", "toc"},
+                                                      {"a0", "a0"},
+                                                      {"a1", "a1"},
+                                                      {"a2", "a2"},
+                                                      {"IODC", "IODC"},
+                                                      {"IODE", "IODE"},
+                                                      {"TGD_B2ap", "TGDB2ap"},
+                                                      {"TGD_B1Cp", "TGDB1Cp"},
+                                                      {"ISC_B2ad", "ISCB2ad"},
+                                                      {"ISC_B1Cd", "ISCB1Cd"},
+                                                      {"HS", "HS"},
+                                                      {"SatType", "SatType"},
+                                                      {"SISAI_OE", "SISAIoe"},
+                                                      {"HOW", "HOW"}};
     const std::map<std::string, std::string> angles = {
-        {"dn0", "deltaN0"}, {"dn0dot", "dDeltaN0"}, {"M0", "M0"}, {"omega", "w"},
-        {"OMEGA0", "Omega0"}, {"i0", "i0"}, {"IDOT", "di0"}};
+        {"dn0", "deltaN0"},   {"dn0dot", "dDeltaN0"}, {"M0", "M0"},   {"omega", "w"},
+        {"OMEGA0", "Omega0"}, {"i0", "i0"},           {"IDOT", "di0"}};
     for (const auto& [key, text] : r.truth) {
         const double v = truthValue(text);
         c.digits = digitsOf(text);
@@ -233,7 +289,8 @@ void checkFrame(Checker& c, const Testing::RealMessage& r, MessageFormat format)
             // The offset from the reference: GPS 26559710 m, QZSS 42164200 m; BeiDou
             // 27906100 m (MEO, type 3) or 42162200 m (IGSO and GEO).
             const double reference = gps ? (r.satellite[0] == 'J' ? 42164200.0 : 26559710.0)
-                                     : c.value("SatType") == 3.0 ? 27906100.0 : 42162200.0;
+                                     : c.value("SatType") == 3.0 ? 27906100.0
+                                                                 : 42162200.0;
             c.expect("deltaA", v - reference, v);
         } else if (key == "WN") {
             c.expect("WN", std::fmod(v, 8192.0));  // 13 bits broadcast
@@ -254,9 +311,11 @@ void checkFrame(Checker& c, const Testing::RealMessage& r, MessageFormat format)
 void checkIrnss(Checker& c, const Testing::RealMessage& r) {
     const std::map<std::string, std::string> names = {
         {"toe", "toe"}, {"e", "e"}, {"sqrtA", "sqrtA"}, {"TOWC", "TOWC"}};
-    const std::map<std::string, std::string> angles = {
-        {"M0", "M0"}, {"OMEGA0", "Omega0"}, {"omega", "omega"}, {"OMEGAdot", "omegaDot"},
-        {"i0", "i0"}};
+    const std::map<std::string, std::string> angles = {{"M0", "M0"},
+                                                       {"OMEGA0", "Omega0"},
+                                                       {"omega", "omega"},
+                                                       {"OMEGAdot", "omegaDot"},
+                                                       {"i0", "i0"}};
     for (const auto& [key, text] : r.truth) {
         const double v = truthValue(text);
         c.digits = digitsOf(text);
@@ -274,7 +333,8 @@ TEST(RecordRealData, ValuesAreTheInterfaceDocuments) {
     for (const Testing::SupportedFormat& f : Testing::kSupportedFormats) {
         int compared = 0;
         for (const Testing::RealMessage& r : Testing::loadRealData(f.realDataFile)) {
-            const DecodedMessage m = NavMessageDecoder::DecodeFields(f.format, r.subframe, r.page, r.hex);
+            const DecodedMessage m =
+                NavMessageDecoder::DecodeFields(f.format, r.subframe, r.page, r.hex);
             Checker c(m, r);
             switch (f.format) {
                 case MessageFormat::GpsLNav:
@@ -296,8 +356,8 @@ TEST(RecordRealData, ValuesAreTheInterfaceDocuments) {
         }
         // Every ground-truth value but the documented exceptions is compared.
         const std::map<std::string_view, int> expected = {
-            {"gps_lnav.tsv", 1310},    {"qzss_lnav.tsv", 815},     {"beidou_d1.tsv", 873},
-            {"beidou_d2.tsv", 585},    {"gps_cnav2.tsv", 1230},    {"beidou_cnav1.tsv", 1269},
+            {"gps_lnav.tsv", 1310},    {"qzss_lnav.tsv", 815},  {"beidou_d1.tsv", 873},
+            {"beidou_d2.tsv", 585},    {"gps_cnav2.tsv", 1230}, {"beidou_cnav1.tsv", 1269},
             {"beidou_cnav2.tsv", 528}, {"irnss.tsv", 9}};
         EXPECT_EQ(compared, expected.at(f.realDataFile)) << f.realDataFile;
     }
