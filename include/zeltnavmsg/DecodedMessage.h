@@ -56,8 +56,11 @@ struct FieldInfo {
     // The value differs from what the listing prints (scale, sign, units or bits),
     // following the library's table of corrections.
     bool corrected = false;
-    // How the library writes the listing's text of the field; not for hosts.
-    const void* listing = nullptr;
+    // The listing prints the field on a line of its own.
+    bool listed = false;
+    // The library's own data about the field (its listing line, its JSON and CSV
+    // text); not for hosts.
+    const void* detail = nullptr;
 };
 
 // One field of one message. Copying it copies three words; nothing is allocated.

@@ -5,7 +5,7 @@
 #include "fields/BitFieldValueDef.h"
 #include "fields/ReadableDescription.h"
 #include "legacy/SubframeIf.h"
-#include "records/MessageWriter.h"
+#include "records/FieldDetail.h"
 #include "text/TextBuffer.h"
 
 namespace ZeltNavMsg {
@@ -29,10 +29,11 @@ const DecodedField* DecodedMessage::find(std::string_view key) const noexcept {
 }
 
 std::string DecodedMessage::listingText(const DecodedField& field) const {
-    const auto* source = static_cast<const Records::ListingSource*>(field.info().listing);
-    if (source == nullptr) {
+    if (!field.info().listed) {
         return {};
     }
+    const Records::ListingSource* source =
+        &static_cast<const Records::FieldDetail*>(field.info().detail)->listing;
     Text::TextBuffer text("\r\n");
     if (source->treeField != nullptr) {
         const ConstBitBuffer buffer(bits_.data(), source->frameBits);

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstring>
+#include <deque>
 #include <stdexcept>
 #include <string_view>
 #include <vector>
@@ -13,6 +15,7 @@
 #include "legacy/GpsL1caInterface.h"
 #include "legacy/QzssL1caInterface.h"
 #include "records/Corrections.h"
+#include "records/FieldDetail.h"
 #include "records/LayoutNames.h"
 #include "records/Units.h"
 
@@ -36,6 +39,7 @@ struct LegacyPart {
     static constexpr std::size_t kMaxPieces = 8;
     FieldInfo info;
     ValueRule rule;
+    bool isSigned = false;  // two's complement of rule.width bits
     std::array<Piece, kMaxPieces> pieces{};
     std::uint8_t pieceCount = 0;
     std::size_t firstSegment = 0;
@@ -45,18 +49,40 @@ struct LegacyPart {
 struct LegacyLine {
     std::uint32_t firstPart = 0;
     std::uint32_t partCount = 0;
-    ListingSource listing;
 };
 
+// The record's value: the document's number (two's complement or unsigned) times
+// the scale.
+double valueOf(const LegacyPart& part, std::uint64_t raw) noexcept {
+    if (part.isSigned) {
+        const int unused = 64 - part.rule.width;
+        return static_cast<double>(static_cast<std::int64_t>(raw << unused) >> unused) *
+               part.rule.scale;
+    }
+    return static_cast<double>(raw) * part.rule.scale;
+}
+
+// Eight bytes from `p`, the first most significant: one load and a byte swap.
 std::uint64_t load64(const std::uint8_t* p) noexcept {
+#if defined(__GNUC__) || defined(__clang__)
+    if constexpr (std::endian::native == std::endian::little) {
+        std::uint64_t v = 0;
+        std::memcpy(&v, p, sizeof v);
+        return __builtin_bswap64(v);
+    }
+#endif
     std::uint64_t v = 0;
-    for (int i = 0; i < 8; ++i) {  // one load and a byte swap once optimised
+    for (int i = 0; i < 8; ++i) {
         v = (v << 8) | p[i];
     }
     return v;
 }
 
 std::uint64_t readPart(const LegacyPart& part, const std::uint8_t* bits) noexcept {
+    if (part.pieceCount == 1) {  // most fields
+        const Piece& p = part.pieces[0];
+        return (load64(bits + p.byte) << p.shift) >> (64 - p.length);
+    }
     std::uint64_t raw = 0;
     for (std::uint8_t i = 0; i < part.pieceCount; ++i) {
         const Piece& p = part.pieces[i];
@@ -109,55 +135,123 @@ class LegacyPlan {
         for (std::size_t i = 0; i < plan.lines.size(); ++i) {
             addLine(i, plan.lines[i], signal.fields()[plan.lines[i].entry], map);
         }
-        for (LegacyPart& part : parts_) {
+        // One detail per part, in the same order.
+        for (std::size_t i = 0; i < parts_.size(); ++i) {
+            LegacyPart& part = parts_[i];
             part.info.bits = std::span<const BitSegment>(segments_).subspan(part.firstSegment,
                                                                             part.segmentCount);
+            describeForOutput(part.info, details_[i]);
         }
+        // What the listing's rule selects for each subframe 1-5 and layout, once: the
+        // parts of the raw pass, then those of the decoded pass.
+        for (const SubframeFieldInfo& entry : signal.fields()) {
+            maxLayout_ = std::max(maxLayout_, entry.layoutId);
+        }
+        for (std::int32_t subframe = 1; subframe <= kSubframes; ++subframe) {
+            for (std::int32_t layout = 0; layout <= maxLayout_; ++layout) {
+                Legacy::subframe_t sf;
+                sf.subframe = subframe;
+                Selection& selection = selections_.emplace_back();
+                selection.first = static_cast<std::uint32_t>(selected_.size());
+                for (const bool rawPass : {true, false}) {
+                    signal.forEachLine(sf, layout, rawPass, true,
+                                       [&](std::size_t i, const PlannedLine&) {
+                                           const LegacyLine& line = lines_[i];
+                                           for (std::uint32_t p = 0; p < line.partCount; ++p) {
+                                               selected_.push_back(line.firstPart + p);
+                                           }
+                                       });
+                    if (rawPass) {
+                        selection.rawCount =
+                            static_cast<std::uint32_t>(selected_.size()) - selection.first;
+                    }
+                }
+                selection.count = static_cast<std::uint32_t>(selected_.size()) - selection.first;
+            }
+        }
+        svIdLines_[0] = findLine(4, "sv_id");
+        svIdLines_[1] = findLine(5, "sv_id");
+    }
+
+    // The parts the listing's rule selects for the subframe's number and `layoutId`,
+    // raw pass first: `rawCount` of them read the bits as received.
+    struct Parts {
+        std::span<const std::uint32_t> indices;
+        std::uint32_t rawCount = 0;
+    };
+    [[nodiscard]] bool hasSelection(const subframe_t& sf, std::int32_t layoutId) const noexcept {
+        return sf.subframe >= 1 && sf.subframe <= kSubframes && layoutId >= 0 &&
+               layoutId <= maxLayout_;
+    }
+    [[nodiscard]] Parts selection(const subframe_t& sf, std::int32_t layoutId) const noexcept {
+        const Selection& s =
+            selections_[static_cast<std::size_t>((sf.subframe - 1) * (maxLayout_ + 1) + layoutId)];
+        return {std::span<const std::uint32_t>(selected_).subspan(s.first, s.count), s.rawCount};
+    }
+
+    void addPart(std::uint32_t index, const std::uint8_t* bits, MessageWriter& writer) const {
+        const LegacyPart& part = parts_[index];
+        const std::uint64_t raw = readPart(part, bits);
+        writer.add(part.info, raw, valueOf(part, raw));
+    }
+    [[nodiscard]] DecodedField record(std::uint32_t index,
+                                      const std::uint8_t* bits) const noexcept {
+        const LegacyPart& part = parts_[index];
+        const std::uint64_t raw = readPart(part, bits);
+        return {part.info, raw, valueOf(part, raw)};
+    }
+    void addLine(std::size_t lineIndex, const std::uint8_t* bits, MessageWriter& writer) const {
+        const LegacyLine& line = lines_[lineIndex];
+        for (std::uint32_t p = line.firstPart; p < line.firstPart + line.partCount; ++p) {
+            addPart(p, bits, writer);
+        }
+    }
+
+    // The SV ID of subframe 4 or 5 where the table puts it.
+    [[nodiscard]] std::int64_t svIdLine(std::int32_t subframe) const noexcept {
+        return svIdLines_[subframe == 4 ? 0 : 1];
     }
 
     [[nodiscard]] const SubframeIf& signal() const noexcept { return signal_; }
     [[nodiscard]] MessageFormat format() const noexcept { return format_; }
 
-    void add(std::size_t lineIndex, const std::uint8_t* bits, MessageWriter& writer) const {
-        const LegacyLine& line = lines_[lineIndex];
-        for (std::uint32_t p = line.firstPart; p < line.firstPart + line.partCount; ++p) {
-            const LegacyPart& part = parts_[p];
-            const std::uint64_t raw = readPart(part, bits);
-            writer.add(
-                part.info, raw,
-                BitUtils::readDouble(raw, part.rule.scale, part.rule.width, part.rule.format));
-        }
+    [[nodiscard]] std::uint64_t readLine(std::size_t lineIndex, const std::uint8_t* bits) const {
+        return readPart(parts_[lines_[lineIndex].firstPart], bits);
     }
 
-    // The line of the named entry among those selected for `sf`, if any: how the
-    // records find the SV ID where the table puts it.
-    [[nodiscard]] std::int64_t findLine(const subframe_t& sf, std::int32_t layoutId,
-                                        std::string_view name) const {
+  private:
+    static constexpr std::int32_t kSubframes = 5;
+
+    struct Selection {
+        std::uint32_t first = 0;
+        std::uint32_t count = 0;
+        std::uint32_t rawCount = 0;
+    };
+
+    // The line of the entry `name` the listing's rule selects in subframe `subframe`
+    // whatever its page, or -1.
+    std::int64_t findLine(std::int32_t subframe, std::string_view name) const {
+        Legacy::subframe_t sf;
+        sf.subframe = subframe;
         std::int64_t found = -1;
-        signal_.forEachLine(sf, layoutId, false, true, [&](std::size_t i, const PlannedLine& line) {
+        signal_.forEachLine(sf, 0, false, true, [&](std::size_t i, const PlannedLine& line) {
             if (found < 0 && signal_.fields()[line.entry].name == name) {
                 found = static_cast<std::int64_t>(i);
             }
         });
         return found;
     }
-    [[nodiscard]] std::uint64_t readLine(std::size_t lineIndex, const std::uint8_t* bits) const {
-        return readPart(parts_[lines_[lineIndex].firstPart], bits);
-    }
 
-  private:
     void addLine(std::size_t index, const PlannedLine& planned, const SubframeFieldInfo& entry,
                  PositionMap map) {
         LegacyLine& line = lines_[index];
-        line.listing.legacyLine = &planned;
-        line.listing.rawPass = (entry.flags & Legacy::kRawPass) != 0;
         line.firstPart = static_cast<std::uint32_t>(parts_.size());
 
         FieldInfo info;
         info.name = entry.name;
         info.path = entry.name;
         info.role = roleOf(entry);
-        info.listing = Legacy::isPrinted(entry) ? &line.listing : nullptr;
+        info.listed = Legacy::isPrinted(entry);
 
         ValueRule rule;
         const bool isSigned =
@@ -207,10 +301,17 @@ class LegacyPlan {
         LegacyPart part;
         std::int32_t partBits = 0;
         const auto flush = [&] {
+            FieldDetail& detail = details_.emplace_back();
+            if (info.listed) {
+                detail.listing.legacyLine = &planned;
+                detail.listing.rawPass = (entry.flags & Legacy::kRawPass) != 0;
+            }
             part.info = info;
+            part.info.detail = &detail;
             part.info.bitCount = partBits;
             part.rule = rule;
             part.rule.width = partBits;
+            part.isSigned = rule.format != NumberFormat::UnsignedNumberFormat;
             parts_.push_back(part);
             part = LegacyPart{};
             partBits = 0;
@@ -271,6 +372,11 @@ class LegacyPlan {
     std::vector<LegacyLine> lines_;
     std::vector<LegacyPart> parts_;
     std::vector<BitSegment> segments_;
+    std::deque<FieldDetail> details_;  // stays in place as it grows
+    std::int32_t maxLayout_ = 0;
+    std::vector<Selection> selections_;  // by subframe and layout
+    std::vector<std::uint32_t> selected_;
+    std::int64_t svIdLines_[2] = {-1, -1};
 };
 
 const LegacyPlan& planOf(MessageFormat format) {
@@ -315,7 +421,7 @@ void decodeSubframe(MessageFormat format, const subframe_t& sf, MessageWriter& w
     std::int32_t svId = -1;
     if (format == MessageFormat::QzssLNav && correctsQzssLayout() &&
         (sf.subframe == 4 || sf.subframe == 5)) {
-        const std::int64_t line = plan.findLine(sf, layoutId, "sv_id");
+        const std::int64_t line = plan.svIdLine(sf.subframe);
         if (line >= 0) {
             const auto id = static_cast<std::int32_t>(
                 plan.readLine(static_cast<std::size_t>(line), writer.bits()));
@@ -327,10 +433,22 @@ void decodeSubframe(MessageFormat format, const subframe_t& sf, MessageWriter& w
         }
     }
 
-    for (const bool rawPass : {true, false}) {
-        const std::uint8_t* bits = rawPass ? writer.received() : writer.bits();
-        signal.forEachLine(sf, layoutId, rawPass, true,
-                           [&](std::size_t i, const PlannedLine&) { plan.add(i, bits, writer); });
+    if (plan.hasSelection(sf, layoutId)) {
+        const LegacyPlan::Parts parts = plan.selection(sf, layoutId);
+        DecodedField* out = writer.extend(parts.indices.size());
+        for (std::size_t i = 0; i < parts.rawCount; ++i) {
+            *out++ = plan.record(parts.indices[i], writer.received());
+        }
+        for (std::size_t i = parts.rawCount; i < parts.indices.size(); ++i) {
+            *out++ = plan.record(parts.indices[i], writer.bits());
+        }
+    } else {
+        for (const bool rawPass : {true, false}) {
+            const std::uint8_t* bits = rawPass ? writer.received() : writer.bits();
+            signal.forEachLine(sf, layoutId, rawPass, true, [&](std::size_t i, const PlannedLine&) {
+                plan.addLine(i, bits, writer);
+            });
+        }
     }
     appendLegacyLayout(format, sf.subframe, sf.page, layoutId, svId, writer.layout());
 }

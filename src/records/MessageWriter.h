@@ -68,6 +68,12 @@ class MessageWriter {
     void add(const FieldInfo& info, std::uint64_t raw, double value) {
         m_.fields_.emplace_back(info, raw, value);
     }
+    // Room for `count` more fields, to be written in place.
+    DecodedField* extend(std::size_t count) {
+        const std::size_t size = m_.fields_.size();
+        m_.fields_.resize(size + count);
+        return m_.fields_.data() + size;
+    }
 
   private:
     DecodedMessage& m_;

@@ -2,6 +2,10 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
+#include <cstring>
+
+#include "records/FieldDetail.h"
 
 namespace ZeltNavMsg {
 
@@ -18,11 +22,47 @@ void appendInteger(std::string& out, std::int64_t n) {
     out.append(digits, r.ptr);
 }
 
-// The shortest text that reads back as the same double.
+}  // namespace
+
+namespace Records {
+
+// The shortest text that reads back as the same double, as std::to_chars writes it.
+// Most values are integers (counts, flags, seconds): their digits are that text
+// unless the exponent form is shorter ("1e+05" for 100000), so they skip the general
+// algorithm.
+char* writeShortest(char* p, double v) noexcept {
+    constexpr double kExact = 9007199254740992.0;  // 2^53
+    if (v > -kExact && v < kExact) {
+        const auto n = static_cast<std::int64_t>(v);
+        if (static_cast<double>(n) == v && !(n == 0 && std::signbit(v))) {
+            char digits[24];
+            const auto r = std::to_chars(digits, digits + sizeof digits, n < 0 ? -n : n);
+            const auto count = static_cast<int>(r.ptr - digits);
+            int significant = count;
+            while (significant > 1 && digits[significant - 1] == '0') {
+                --significant;
+            }
+            // d[.ddd]e+XX: the exponent of an integer below 2^53 has two digits.
+            const int exponentForm = (significant == 1 ? 1 : significant + 1) + 4;
+            if (count <= exponentForm) {
+                if (n < 0) {
+                    *p++ = '-';
+                }
+                std::memcpy(p, digits, static_cast<std::size_t>(count));
+                return p + count;
+            }
+        }
+    }
+    return std::to_chars(p, p + 32, v).ptr;
+}
+
+}  // namespace Records
+
+namespace {
+
 void appendNumber(std::string& out, double v) {
     char digits[32];
-    const auto r = std::to_chars(digits, digits + sizeof digits, v);
-    out.append(digits, r.ptr);
+    out.append(digits, Records::writeShortest(digits, v));
 }
 
 // `digits` upper-case hex digits of the low bits of `v`.
@@ -122,6 +162,40 @@ void appendCsvCell(std::string& out, std::string_view s) {
 
 }  // namespace
 
+namespace Records {
+
+void describeForOutput(const FieldInfo& info, FieldDetail& detail) {
+    std::string head = "{\"path\":";
+    appendJsonString(head, info.path);
+    head.append(",\"name\":");
+    appendJsonString(head, info.name);
+    head.append(",\"kind\":\"");
+    head.append(kKinds[static_cast<std::size_t>(info.kind)]);
+    detail.jsonHead = head;
+    detail.jsonHead.append("\",\"value\":");
+    detail.jsonHeadWithRole = head;
+    detail.jsonHeadWithRole.append("\",\"role\":\"");
+    detail.jsonHeadWithRole.append(kRoles[static_cast<std::size_t>(info.role)]);
+    detail.jsonHeadWithRole.append("\",\"value\":");
+    detail.jsonMid.assign(",\"units\":");
+    appendJsonString(detail.jsonMid, info.units);
+    detail.jsonMid.append(",\"raw\":\"");
+    detail.jsonTail.assign("\",\"bits\":");
+    appendJsonBits(detail.jsonTail, info.bits);
+    detail.jsonTail.push_back('}');
+
+    detail.csvNames.clear();
+    appendCsvCell(detail.csvNames, info.path);
+    detail.csvNames.push_back(',');
+    appendCsvCell(detail.csvNames, info.name);
+    detail.csvNames.push_back(',');
+    detail.csvUnits.assign(1, ',');
+    appendCsvCell(detail.csvUnits, info.units);
+    detail.csvUnits.push_back(',');
+}
+
+}  // namespace Records
+
 std::string_view MessageFormatName(MessageFormat format) noexcept {
     switch (format) {
         case MessageFormat::GpsLNav:
@@ -189,31 +263,21 @@ void AppendJsonRecord(std::string& out, const DecodedMessage& message, const Rec
         if (!shown(f, options)) {
             continue;
         }
-        out.append(first ? "{\"path\":" : ",{\"path\":");
-        first = false;
-        appendJsonString(out, f.path());
-        out.append(",\"name\":");
-        appendJsonString(out, f.name());
-        out.append(",\"kind\":\"");
-        out.append(kKinds[static_cast<std::size_t>(f.kind())]);
-        if (options.allFields) {
-            out.append("\",\"role\":\"");
-            out.append(kRoles[static_cast<std::size_t>(f.role())]);
+        const auto& text = *static_cast<const Records::FieldDetail*>(f.info().detail);
+        if (!first) {
+            out.push_back(',');
         }
-        out.append("\",\"value\":");
+        first = false;
+        out.append(options.allFields ? text.jsonHeadWithRole : text.jsonHead);
         if (f.kind() == ValueKind::Character) {
             char buffer[2];
             appendJsonString(out, characterOf(f, buffer, false));
         } else {
             appendNumber(out, f.value());
         }
-        out.append(",\"units\":");
-        appendJsonString(out, f.units());
-        out.append(",\"raw\":\"");
+        out.append(text.jsonMid);
         appendHex(out, f.raw(), (f.bitCount() + 3) / 4);
-        out.append("\",\"bits\":");
-        appendJsonBits(out, f.bits());
-        out.push_back('}');
+        out.append(text.jsonTail);
     }
     out.append("],\"checks\":[");
     first = true;
@@ -281,11 +345,9 @@ void AppendCsvRows(std::string& out, const DecodedMessage& message, const Record
         if (!shown(f, options)) {
             continue;
         }
+        const auto& text = *static_cast<const Records::FieldDetail*>(f.info().detail);
         out.append(head);
-        appendCsvCell(out, f.path());
-        out.push_back(',');
-        appendCsvCell(out, f.name());
-        out.push_back(',');
+        out.append(text.csvNames);
         if (f.kind() == ValueKind::Character) {
             // Always quoted, so that a blank or a control character stays one cell.
             char buffer[2];
@@ -296,9 +358,7 @@ void AppendCsvRows(std::string& out, const DecodedMessage& message, const Record
         } else {
             appendNumber(out, f.value());
         }
-        out.push_back(',');
-        appendCsvCell(out, f.units());
-        out.push_back(',');
+        out.append(text.csvUnits);
         appendHex(out, f.raw(), (f.bitCount() + 3) / 4);
         out.push_back(',');
         out.append(verdict);

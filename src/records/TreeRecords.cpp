@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <deque>
 #include <stdexcept>
 #include <vector>
 
@@ -11,6 +12,7 @@
 #include "fields/DescriptionWalker.h"
 #include "fields/ParamModifiers.h"
 #include "records/Corrections.h"
+#include "records/FieldDetail.h"
 #include "records/LayoutNames.h"
 #include "records/Units.h"
 #include "schemas/beidou_cnav1/FrameDef.h"
@@ -30,11 +32,11 @@ struct TreePart {
     std::vector<BitRange> ranges;  // empty: the definition's own readRaw
     std::size_t firstSegment = 0;
     std::size_t segmentCount = 0;
+    FieldDetail* detail = nullptr;  // what info.detail points at, while it is filled
 };
 
 struct TreeEntry {
     std::vector<TreePart> parts;
-    ListingSource listing;
 };
 
 // Everything about a tree's records that does not depend on the bits, by definition
@@ -50,6 +52,7 @@ class TreePlan {
             for (TreePart& part : entry.parts) {
                 part.info.bits = std::span<const BitSegment>(segments_).subspan(part.firstSegment,
                                                                                 part.segmentCount);
+                describeForOutput(part.info, *part.detail);
             }
         }
     }
@@ -71,14 +74,12 @@ class TreePlan {
         }
         const auto& field = static_cast<const BitFieldValueDef&>(def);
         TreeEntry& entry = entries_[static_cast<std::size_t>(def.serial())];
-        entry.listing.treeField = &field;
-        entry.listing.frameBits = frameBits_;
 
         FieldInfo info;
         info.path = def.path();
         info.name = def.name();
         info.role = roleOf(def);
-        info.listing = def.hasFlag(Hidden) ? nullptr : &entry.listing;
+        info.listed = !def.hasFlag(Hidden);
 
         // The listing's value: integers by their truncated integer multiplier, reals and
         // flags as read.
@@ -127,8 +128,15 @@ class TreePlan {
         std::vector<BitRange> part;
         std::int32_t partBits = 0;
         const auto flush = [&] {
+            FieldDetail& detail = details_.emplace_back();
+            if (info.listed) {
+                detail.listing.treeField = &field;
+                detail.listing.frameBits = frameBits_;
+            }
             TreePart p;
             p.info = info;
+            p.info.detail = &detail;
+            p.detail = &detail;
             p.info.bitCount = partBits;
             p.rule = rule;
             p.rule.width = partBits;
@@ -175,6 +183,7 @@ class TreePlan {
     std::int32_t frameBits_;
     std::vector<TreeEntry> entries_;
     std::vector<BitSegment> segments_;
+    std::deque<FieldDetail> details_;  // stays in place as it grows
 };
 
 const TreePlan& planOf(MessageFormat format) {

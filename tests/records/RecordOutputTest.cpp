@@ -6,9 +6,11 @@
 
 #include <nlohmann/json.hpp>
 
+#include <charconv>
 #include <random>
 #include <string>
 
+#include "records/FieldDetail.h"
 #include "records/LayoutCases.h"
 #include "support/RealData.h"
 #include "support/SupportedFormats.h"
@@ -113,6 +115,36 @@ TEST(RecordOutput, JsonReadsBackAsTheRecords) {
             AppendJsonRecord(line, m, context, options);
             EXPECT_EQ(jsonMismatch(m, line, all), "") << m.layout() << ": " << line.substr(0, 300);
         }
+    }
+}
+
+// Integers take a shortcut; it must write what std::to_chars writes, around every
+// switch between the digits and the exponent form.
+TEST(RecordOutput, NumbersAreWhatToCharsWrites) {
+    std::vector<double> values = {0.0,
+                                  -0.0,
+                                  0.5,
+                                  1e-300,
+                                  1e300,
+                                  9007199254740992.0,
+                                  9007199254740993.0,
+                                  -9007199254740991.0,
+                                  123456789012345678.0};
+    for (double base = 1; base < 1e16; base *= 10) {
+        for (const double v : {base, base * 3, base + 1, base * 12, base * 120 + 1}) {
+            values.push_back(v);
+            values.push_back(-v);
+        }
+    }
+    for (const double v : values) {
+        char expected[64];
+        char got[64];
+        const std::string_view a(
+            expected,
+            static_cast<std::size_t>(std::to_chars(expected, expected + 64, v).ptr - expected));
+        const std::string_view b(got,
+                                 static_cast<std::size_t>(Records::writeShortest(got, v) - got));
+        EXPECT_EQ(b, a) << v;
     }
 }
 

@@ -35,7 +35,7 @@ std::string listingMismatch(const Testing::LayoutCase& c) {
     const std::vector<std::string> lines = valueLines(listing, c.layoutBits == 300);
     std::size_t next = 0;
     for (const DecodedField& f : m.fields()) {
-        if (f.info().listing == nullptr) {
+        if (!f.info().listed) {
             continue;
         }
         const std::string text = m.listingText(f);
