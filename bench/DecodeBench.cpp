@@ -31,7 +31,9 @@
 #include "schemas/beidou_cnav2/FrameDef.h"
 #include "schemas/gps_cnav2/FrameDef.h"
 #include "schemas/irnss/SubframeDef.h"
+#include "zeltnavmsg/DecodedMessage.h"
 #include "zeltnavmsg/NavMessageDecoder.h"
+#include "zeltnavmsg/RecordOutput.h"
 
 namespace {
 
@@ -146,6 +148,33 @@ void benchDecode(benchmark::State& state, const FormatData* data) {
     });
 }
 
+// Records into one reused DecodedMessage: no allocation once it has seen the largest.
+void benchDecodeFields(benchmark::State& state, const FormatData* data) {
+    const MessageFormat format = data->format->format;
+    ZeltNavMsg::DecodedMessage message;
+    cycle(state, data->messages, [format, &message](const Message& m) {
+        NavMessageDecoder::DecodeFields(format, m.subframe, m.page, m.hex, message);
+        benchmark::DoNotOptimize(message.fields().data());
+        return std::size_t{0};
+    });
+}
+
+// Records and their JSON line, into reused storage: what batch --output json does.
+void benchJson(benchmark::State& state, const FormatData* data) {
+    const MessageFormat format = data->format->format;
+    ZeltNavMsg::DecodedMessage message;
+    ZeltNavMsg::RecordContext context;
+    context.sat = "G05";
+    std::string out;
+    cycle(state, data->messages, [&](const Message& m) {
+        NavMessageDecoder::DecodeFields(format, m.subframe, m.page, m.hex, message);
+        out.clear();
+        ZeltNavMsg::AppendJsonRecord(out, message, context);
+        benchmark::DoNotOptimize(out.data());
+        return out.size();
+    });
+}
+
 void benchHexParsing(benchmark::State& state, const FormatData* data) {
     cycle(state, data->messages, [](const Message& m) {
         std::int32_t sizeBits = 0;
@@ -203,6 +232,8 @@ int main(int argc, char** argv) {
         }
         const std::string name = d.format->name;
         benchmark::RegisterBenchmark(("Decode/" + name).c_str(), benchDecode, &d);
+        benchmark::RegisterBenchmark(("DecodeFields/" + name).c_str(), benchDecodeFields, &d);
+        benchmark::RegisterBenchmark(("Json/" + name).c_str(), benchJson, &d);
         benchmark::RegisterBenchmark(("HexParsing/" + name).c_str(), benchHexParsing, &d);
         benchmark::RegisterBenchmark(("SnprintfListing/" + name).c_str(), benchNaiveListing, &d);
     }

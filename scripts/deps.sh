@@ -3,7 +3,7 @@
 # are present. Extra package names given as arguments are checked too.
 set -euo pipefail
 
-packages=(cmake ninja-build g++ libgtest-dev libcli11-dev "$@")
+packages=(cmake ninja-build g++ libgtest-dev libcli11-dev nlohmann-json3-dev "$@")
 
 missing=()
 for p in "${packages[@]}"; do

@@ -46,9 +46,9 @@ enum class FieldRole : std::uint8_t {
 // The unchanging description of a field: owned by the library, valid for the life of
 // the process, the same object for every message of the same layout.
 struct FieldInfo {
-    std::string_view path;   // enclosing structures and the name, joined by '.'
-    std::string_view name;   // as the listing prints it
-    std::string_view units;  // "s", "m", "semicircles", ...; empty for a pure number
+    std::string_view path;             // enclosing structures and the name, joined by '.'
+    std::string_view name;             // as the listing prints it
+    std::string_view units;            // "s", "m", "semicircles", ...; empty for a pure number
     std::span<const BitSegment> bits;  // most significant segment first
     std::int32_t bitCount = 0;
     ValueKind kind = ValueKind::Unsigned;
@@ -56,8 +56,11 @@ struct FieldInfo {
     // The value differs from what the listing prints (scale, sign, units or bits),
     // following the library's table of corrections.
     bool corrected = false;
-    // How the library writes the listing's text of the field; not for hosts.
-    const void* listing = nullptr;
+    // The listing prints the field on a line of its own.
+    bool listed = false;
+    // The library's own data about the field (its listing line, its JSON and CSV
+    // text); not for hosts.
+    const void* detail = nullptr;
 };
 
 // One field of one message. Copying it copies three words; nothing is allocated.
@@ -100,10 +103,10 @@ struct CheckResult {
     std::string_view name;             // "word 3 parity", "codeword 4 BCH", ...
     std::span<const BitSegment> bits;  // the bits it covers, check bits included
     CheckStatus status = CheckStatus::Pass;
-    std::int32_t checkBits = 0;        // width of computed/received
-    std::uint32_t computed = 0;        // check bits computed from the data bits
-    std::uint32_t received = 0;        // check bits as broadcast
-    std::int32_t correctedBit = -1;    // input position of the corrected bit, or -1
+    std::int32_t checkBits = 0;      // width of computed/received
+    std::uint32_t computed = 0;      // check bits computed from the data bits
+    std::uint32_t received = 0;      // check bits as broadcast
+    std::int32_t correctedBit = -1;  // input position of the corrected bit, or -1
 
     [[nodiscard]] bool ok() const noexcept { return status == CheckStatus::Pass; }
 };

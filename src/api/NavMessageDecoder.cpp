@@ -1,5 +1,8 @@
 #include "zeltnavmsg/NavMessageDecoder.h"
 
+#include "zeltnavmsg/DecodedMessage.h"
+
+#include <algorithm>
 #include <stdexcept>
 #include <string>
 
@@ -11,6 +14,8 @@
 #include "legacy/BeidouD2Interface.h"
 #include "legacy/GpsL1caInterface.h"
 #include "legacy/QzssL1caInterface.h"
+#include "records/LegacyRecords.h"
+#include "records/TreeRecords.h"
 #include "schemas/beidou_cnav1/FrameDef.h"
 #include "schemas/beidou_cnav2/FrameDef.h"
 #include "schemas/gps_cnav2/FrameDef.h"
@@ -49,19 +54,27 @@ bool isKnownSystem(char letter) {
     return Names::kSystemLetters.find(letter) != std::string_view::npos;
 }
 
-// Legacy road: the bytes go into the 38-byte record with the layout of its
-// subframe and page, and the signal's table describes it.
-void describeSubframe(const Legacy::SubframeIf& signal, std::int32_t subframeNumber,
-                      std::int32_t pageNumber, std::string_view digits, Text::TextBuffer& out) {
+// The 300-bit formats' record of the given digits: subframe, page, bit count and the
+// bytes. Longer input than 38 bytes is refused.
+Legacy::subframe_t subframeRecord(std::int32_t subframeNumber, std::int32_t pageNumber,
+                                  std::string_view digits) {
     if (digits.size() > 2 * static_cast<std::size_t>(Legacy::subframe_t::kDataBytes)) {
         throw std::length_error("Decode: subframe data is longer than 38 bytes");
     }
     Legacy::subframe_t sf;
     sf.subframe = subframeNumber;
     sf.page = pageNumber;
-    sf.layoutId = signal.GetLayoutId(sf);
     sf.bitCount = static_cast<std::int32_t>(digits.size() * 4);
     Detail::hexDigitsToBytes(digits, sf.data, sizeof sf.data);
+    return sf;
+}
+
+// Legacy road: the bytes go into the 38-byte record with the layout of its
+// subframe and page, and the signal's table describes it.
+void describeSubframe(const Legacy::SubframeIf& signal, std::int32_t subframeNumber,
+                      std::int32_t pageNumber, std::string_view digits, Text::TextBuffer& out) {
+    Legacy::subframe_t sf = subframeRecord(subframeNumber, pageNumber, digits);
+    sf.layoutId = signal.GetLayoutId(sf);
     signal.describe(out, sf, Legacy::SubframeIf::DecodingMode::DecodeWords);
 }
 
@@ -160,6 +173,56 @@ std::string NavMessageDecoder::Decode(MessageFormat format, std::int32_t subfram
             throw DecodingError("Decoding is not supported yet for this message format");
     }
     return out.str();
+}
+
+DecodedMessage NavMessageDecoder::DecodeFields(MessageFormat format, std::int32_t subframeNumber,
+                                               std::int32_t pageNumber,
+                                               std::string_view hexString) {
+    DecodedMessage message;
+    DecodeFields(format, subframeNumber, pageNumber, hexString, message);
+    return message;
+}
+
+void NavMessageDecoder::DecodeFields(MessageFormat format, std::int32_t subframeNumber,
+                                     std::int32_t pageNumber, std::string_view hexString,
+                                     DecodedMessage& out) {
+    // The same checks as Decode, in the same order.
+    const std::string_view digits = Detail::validateHexDigits(hexString);
+    if (digits.empty()) {
+        throw std::out_of_range("Decode: hex string is empty");
+    }
+    Records::MessageWriter writer(out);
+    const auto bitCount =
+        static_cast<std::int32_t>(std::min<std::size_t>(digits.size(), 1U << 28) * 4);
+    switch (format) {
+        case MessageFormat::GpsCNav2:
+        case MessageFormat::BeidouCNav1:
+        case MessageFormat::BeidouCNav2:
+        case MessageFormat::Irnss: {
+            // The first N bits in a zeroed frame, as the listing reads them.
+            writer.start(format, subframeNumber, pageNumber, bitCount);
+            const std::int32_t frameBits = Records::treeFrameBits(format);
+            const auto frameBytes = static_cast<std::size_t>((frameBits + 7) / 8);
+            Detail::hexDigitsToBytes(digits, writer.bits(), frameBytes);
+            if (frameBits % 8 != 0) {
+                writer.bits()[frameBytes - 1] &=
+                    static_cast<std::uint8_t>(0xFF00U >> (frameBits % 8));
+            }
+            Records::decodeTree(format, writer);
+            return;
+        }
+        case MessageFormat::GpsLNav:
+        case MessageFormat::QzssLNav:
+        case MessageFormat::BeidouD1:
+        case MessageFormat::BeidouD2: {
+            const Legacy::subframe_t sf = subframeRecord(subframeNumber, pageNumber, digits);
+            writer.start(format, subframeNumber, pageNumber, bitCount);
+            Records::decodeSubframe(format, sf, writer);
+            return;
+        }
+        default:
+            throw DecodingError("Decoding is not supported yet for this message format");
+    }
 }
 
 }  // namespace ZeltNavMsg

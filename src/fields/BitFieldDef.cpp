@@ -62,6 +62,15 @@ BitFieldDef::BitFieldDef(BitStructDef* parent, std::string name, std::vector<Bit
     }
     totalBits_ = sumOfWidths(ranges_);
     if (parent_ != nullptr) {
+        const std::string& prefix = parent_->childPrefix_;
+        path_ = prefix.empty() ? name_ : prefix + "." + name_;
+        // Members of a transparent structure are listed at its parent's level.
+        childPrefix_ = hasFlag(Transparent) ? prefix : path_;
+        BitFieldDef* root = parent_;
+        while (root->parent_ != nullptr) {
+            root = root->parent_;
+        }
+        serial_ = root->treeSize_++;
         parent_->addChild(this);
     }
 }

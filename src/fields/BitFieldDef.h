@@ -75,6 +75,13 @@ class BitFieldDef {
     [[nodiscard]] bool hasFlag(FieldFlags flag) const noexcept { return (flags_ & flag) != 0; }
     [[nodiscard]] std::int32_t containerId() const noexcept { return containerId_; }
     [[nodiscard]] bool isStruct() const noexcept { return isStruct_; }
+    // The names of the enclosing structures and this one, joined by '.': the root and
+    // transparent structures, which the listing shows no heading for, take no part.
+    [[nodiscard]] const std::string& path() const noexcept { return path_; }
+    // Position of the definition in its tree's declaration order (the root is 0), and
+    // how many definitions the tree has: an index for tables built beside the tree.
+    [[nodiscard]] std::int32_t serial() const noexcept { return serial_; }
+    [[nodiscard]] std::int32_t treeSize() const noexcept { return treeSize_; }
 
   protected:
     // Applies the modifiers in order, registers with `parent` (sorted by order, stable),
@@ -96,6 +103,10 @@ class BitFieldDef {
     std::uint32_t flags_;
     std::int32_t containerId_;
     std::int32_t totalBits_ = 0;
+    std::string path_;
+    std::string childPrefix_;  // what members' paths start with
+    std::int32_t serial_ = 0;
+    std::int32_t treeSize_ = 1;  // counted on the root only
     bool isStruct_;
 };
 

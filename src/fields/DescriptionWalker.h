@@ -11,31 +11,60 @@
 #include "text/NumberText.h"
 #include "text/PaddedText.h"
 
-// The one walk over a definition tree and a bit buffer. It decides what is shown:
-// hidden members are skipped, a variant member only when its container id is the
-// structure's active one, a value's raw hex only when it says more than the value
-// text. A sink turns what it is given into an output form (text lines here; other
-// forms, such as records of path, name, value, units and raw hex, can reuse it).
+// The one walk over a definition tree and a bit buffer. It decides what is present:
+// a variant member only when its container id is the structure's active one, hidden
+// members never in the listing. A sink turns what it is given into an output form:
+// the listing's text lines, or field records.
 //
 // Sink interface:
 //   void heading(const BitStructDef&, std::uint32_t level)   non-transparent structure
 //   void lineBreak()                                         between two parts of a structure
 //   void value(const ValueLine&)                             one visible value field
+// and, for a sink whose `kVisitsHidden` is true (records account for every bit):
+//   void hidden(const BitFieldDef&, ConstBitBuffer)          a hidden member, value or
+//                                                            structure, not a stand-in
+//                                                            for a variant that is present
 
 namespace ZeltNavMsg::Describe {
 
 struct ValueLine {
     const BitFieldValueDef& field;
     std::uint32_t level;
-    // Both texts may be read Text::kCopySlack bytes past their end.
-    std::string_view value;   // the value text
-    std::string_view rawHex;  // upper-case digits, padded to the field's width
-    bool showValue;           // false for RawHexOnly
-    bool showRawHex;          // the digits differ from the value text
+    std::uint64_t raw;  // the field's bits, as readRaw gives them
 };
 
 template <class Sink>
+concept VisitsHidden = Sink::kVisitsHidden;
+
+template <class Sink>
 bool walk(const BitFieldDef& def, ConstBitBuffer buffer, std::uint32_t level, Sink& sink);
+
+namespace Detail {
+
+// A hidden member that shares bits with a variant stands in for the variants (the
+// message data of a page or message type); it is not there when one of them is.
+inline bool standsInForPresentVariant(const BitStructDef& def, const BitFieldDef& hidden,
+                                      std::int32_t active) {
+    if (active < 0) {
+        return false;
+    }
+    const auto overlaps = [](const BitFieldDef& a, const BitFieldDef& b) {
+        for (const BitRange& x : a.ranges()) {
+            for (const BitRange& y : b.ranges()) {
+                if (x.firstBitIndex() <= y.lastBitIndex() &&
+                    y.firstBitIndex() <= x.lastBitIndex()) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    };
+    return std::any_of(def.children().begin(), def.children().end(), [&](const BitFieldDef* child) {
+        return child->containerId() == active && overlaps(*child, hidden);
+    });
+}
+
+}  // namespace Detail
 
 // Returns whether anything was written for the structure.
 template <class Sink>
@@ -53,6 +82,15 @@ bool walkStruct(const BitStructDef& def, ConstBitBuffer buffer, std::uint32_t le
     std::int32_t active = -1;
     for (const BitFieldDef* child : def.children()) {
         if (child->hasFlag(Hidden)) {
+            if constexpr (VisitsHidden<Sink>) {
+                if (!activeKnown) {
+                    active = def.activeContainerId(buffer);
+                    activeKnown = true;
+                }
+                if (!Detail::standsInForPresentVariant(def, *child, active)) {
+                    sink.hidden(*child, buffer);
+                }
+            }
             continue;
         }
         if (child->containerId() >= 0) {
@@ -75,28 +113,13 @@ bool walkStruct(const BitStructDef& def, ConstBitBuffer buffer, std::uint32_t le
 }
 
 template <class Sink>
-bool walkValue(const BitFieldValueDef& def, ConstBitBuffer buffer, std::uint32_t level,
-               Sink& sink) {
-    // Both texts keep Text::kCopySlack bytes of room after them for chunked copies.
-    char value[BitFieldValueDef::kMaxValueText + Text::kCopySlack];
-    char hex[24 + Text::kCopySlack];
-    const std::uint64_t raw = def.readRaw(buffer);
-    const char* valueEnd = def.writeValueText(raw, value);
-    const char* hexEnd =
-        Text::writeHex(hex, raw & lowBitsMask(def.totalBitsCount()), def.hexDigits());
-    const std::string_view valueText(value, static_cast<std::size_t>(valueEnd - value));
-    const std::string_view hexText(hex, static_cast<std::size_t>(hexEnd - hex));
-    sink.value(
-        ValueLine{def, level, valueText, hexText, !def.hasFlag(RawHexOnly), valueText != hexText});
-    return true;
-}
-
-template <class Sink>
 bool walk(const BitFieldDef& def, ConstBitBuffer buffer, std::uint32_t level, Sink& sink) {
     if (def.isStruct()) {
         return walkStruct(static_cast<const BitStructDef&>(def), buffer, level, sink);
     }
-    return walkValue(static_cast<const BitFieldValueDef&>(def), buffer, level, sink);
+    const auto& field = static_cast<const BitFieldValueDef&>(def);
+    sink.value(ValueLine{field, level, field.readRaw(buffer)});
+    return true;
 }
 
 }  // namespace ZeltNavMsg::Describe

@@ -23,29 +23,49 @@ class TextSink {
     void lineBreak() { out_.newline(); }
 
     void value(const ValueLine& line) {
-        const BitFieldValueDef& field = line.field;
-        constexpr std::size_t kRawHexTag = 10;  // ", Raw hex:"
-        const std::size_t room = line.level + field.label().size() + line.value.size() +
-                                 field.unitsSuffix().size() + kRawHexTag + line.rawHex.size() +
-                                 Text::kCopySlack;
-        char* p = out_.reserve(room);
+        char* p = out_.reserve(line.level + maxValueLine(line.field));
         p = putTabs(p, line.level);
-        p = field.label().copyTo(p);
-        if (line.showValue) {
-            p = Text::copyChunks(p, line.value.data(), line.value.size());
+        p = line.field.label().copyTo(p);
+        out_.commit(writeValue(p, line.field, line.raw));
+    }
+
+    // Room a value line takes, tabs aside: label, value text, units, ", Raw hex:"
+    // and the digits, with the slack of chunked copies.
+    static std::size_t maxValueLine(const BitFieldValueDef& field) noexcept {
+        return field.label().size() + BitFieldValueDef::kMaxValueText + field.unitsSuffix().size() +
+               kRawHexTag + 24 + Text::kCopySlack;
+    }
+
+    // What the line shows after the label: the value and its units, followed by the
+    // raw hex digits when they say more than the value text (or the digits alone for
+    // a raw-hex-only field). Returns the end.
+    static char* writeValue(char* p, const BitFieldValueDef& field, std::uint64_t raw) {
+        // Both texts keep Text::kCopySlack bytes of room after them for chunked copies.
+        char value[BitFieldValueDef::kMaxValueText + Text::kCopySlack];
+        char hex[24 + Text::kCopySlack];
+        const char* valueEnd = field.writeValueText(raw, value);
+        const char* hexEnd =
+            Text::writeHex(hex, raw & lowBitsMask(field.totalBitsCount()), field.hexDigits());
+        const std::string_view valueText(value, static_cast<std::size_t>(valueEnd - value));
+        const std::string_view hexText(hex, static_cast<std::size_t>(hexEnd - hex));
+        const bool showValue = !field.hasFlag(RawHexOnly);
+        if (showValue) {
+            p = Text::copyChunks(p, valueText.data(), valueText.size());
             p = field.unitsSuffix().copyTo(p);
         }
-        if (line.showRawHex) {
-            if (line.showValue) {
+        if (valueText != hexText) {
+            if (showValue) {
                 std::memcpy(p, ", Raw hex:", kRawHexTag);
                 p += kRawHexTag;
             }
-            p = Text::copyChunks(p, line.rawHex.data(), line.rawHex.size());
+            p = Text::copyChunks(p, hexText.data(), hexText.size());
         }
-        out_.commit(p);
+        return p;
     }
 
   private:
+    static constexpr std::size_t kRawHexTag = 10;  // ", Raw hex:"
+
     static char* putTabs(char* p, std::uint32_t level) noexcept {
         static constexpr char kTabs[] = "\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t";
         if (level <= Text::kCopySlack) {
@@ -65,6 +85,11 @@ void appendText(const BitFieldDef& def, ConstBitBuffer buffer, std::uint32_t lev
                 Text::TextBuffer& out) {
     TextSink sink(out);
     walk(def, buffer, level, sink);
+}
+
+void appendValueText(const BitFieldValueDef& field, std::uint64_t raw, Text::TextBuffer& out) {
+    char* p = out.reserve(TextSink::maxValueLine(field));
+    out.commit(TextSink::writeValue(p, field, raw));
 }
 
 }  // namespace ZeltNavMsg::Describe

@@ -7,6 +7,10 @@
 #include "fields/BitFieldDef.h"
 #include "text/TextBuffer.h"
 
+namespace ZeltNavMsg {
+class BitFieldValueDef;
+}
+
 namespace ZeltNavMsg::Describe {
 
 // Appends the readable description of `def` to `out`: one line per visible member,
@@ -15,6 +19,9 @@ namespace ZeltNavMsg::Describe {
 // line end after the last.
 void appendText(const BitFieldDef& def, ConstBitBuffer buffer, std::uint32_t level,
                 Text::TextBuffer& out);
+
+// Appends what a value field's line shows after its label, for the raw bits `raw`.
+void appendValueText(const BitFieldValueDef& field, std::uint64_t raw, Text::TextBuffer& out);
 
 }  // namespace ZeltNavMsg::Describe
 

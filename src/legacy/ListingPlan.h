@@ -65,6 +65,7 @@ struct PlannedLine {
     PlannedValue value = PlannedValue::None;
     bool showCharacter = false;  // " '%c'" after the number
     std::uint8_t segmentCount = 0;
+    std::uint16_t entry = 0;  // index of the table entry
     PlannedSegment segments[SubframeFieldInfo::kMaxSegments] = {};
 
     // Room for this line, long units included.
@@ -81,6 +82,7 @@ struct PlannedRun {
     std::uint16_t first = 0;
     std::uint16_t count = 0;
     bool rawPass = false;
+    bool printed = true;  // false for parity and reserved entries, which only records show
 };
 
 // The plan of one signal's table, as SubframeIf reads it.
@@ -217,23 +219,31 @@ template <std::size_t N>
 constexpr ListingPlanData<N> planListing(const std::array<SubframeFieldInfo, N>& table) {
     static_assert(N <= 0xFFFF, "run indices are 16 bits");
     ListingPlanData<N> data;
-    for (const SubframeFieldInfo& field : table) {
-        if (!isPrinted(field)) {
+    for (std::size_t i = 0; i < N; ++i) {
+        const SubframeFieldInfo& field = table[i];
+        if (field.name == nullptr) {
             continue;
         }
+        // Parity and reserved entries are planned too, in runs of their own that the
+        // listing skips: the records account for every bit of a subframe.
+        const bool printed = isPrinted(field);
         const bool rawPass = (field.flags & kRawPass) != 0;
         PlannedRun* run = data.runCount == 0 ? nullptr : &data.runs[data.runCount - 1];
-        if (run == nullptr || run->rawPass != rawPass || run->layoutId != field.layoutId ||
-            run->subframe != field.subframe || run->page != field.page) {
+        if (run == nullptr || run->rawPass != rawPass || run->printed != printed ||
+            run->layoutId != field.layoutId || run->subframe != field.subframe ||
+            run->page != field.page) {
             run = &data.runs[data.runCount++];
             *run = {field.layoutId,
                     field.subframe,
                     field.page,
                     static_cast<std::uint16_t>(data.lineCount),
                     0,
-                    rawPass};
+                    rawPass,
+                    printed};
         }
-        data.lines[data.lineCount++] = planLine(field);
+        PlannedLine& line = data.lines[data.lineCount++];
+        line = planLine(field);
+        line.entry = static_cast<std::uint16_t>(i);
         ++run->count;
     }
     return data;

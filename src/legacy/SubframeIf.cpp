@@ -139,6 +139,18 @@ inline char* writeLine(char* p, const PlannedLine& line, const std::uint8_t* bit
 
 }  // namespace
 
+void appendLineValue(const PlannedLine& line, const std::uint8_t* bits, Text::TextBuffer& out) {
+    char* const p = out.reserve(line.room());
+    const char* end = writeLine(p, line, bits, out) - out.lineEnd().size();
+    const char* value = p + line.labelLength;
+    if (value < end && *value == ' ') {
+        ++value;
+    }
+    const auto length = static_cast<std::size_t>(std::max<std::ptrdiff_t>(end - value, 0));
+    std::memmove(p, value, length);
+    out.commit(p + length);
+}
+
 RawField extractField(const SubframeFieldInfo& field, const std::uint8_t* data) noexcept {
     std::int32_t width = 0;
     for (std::int32_t length : field.segmentLength) {
@@ -160,18 +172,11 @@ RawField extractField(const SubframeFieldInfo& field, const std::uint8_t* data) 
 void SubframeIf::DescribeFields(Text::TextBuffer& out, const subframe_t& sf,
                                 const std::uint8_t* bits, std::int32_t layoutId,
                                 bool rawPass) const {
-    // A subframe without pages is matched by its number alone; a paged entry needs
-    // the layout of the record's page.
-    const auto selected = [&sf, layoutId](std::int32_t entryLayout, std::int32_t subframe,
-                                          std::int32_t page) {
-        return entryLayout == 0 || (subframe == sf.subframe && page == 0) ||
-               entryLayout == layoutId;
-    };
     std::int32_t group = 0;
     if (plan_ == nullptr) {
         for (const SubframeFieldInfo& field : fields()) {
             if (isPrinted(field) && ((field.flags & kRawPass) != 0) == rawPass &&
-                selected(field.layoutId, field.subframe, field.page)) {
+                selected(sf, layoutId, field.layoutId, field.subframe, field.page)) {
                 const PlannedLine line = planLine(field);
                 char* p = out.reserve(line.room());
                 if (line.group != group) {
@@ -187,27 +192,22 @@ void SubframeIf::DescribeFields(Text::TextBuffer& out, const subframe_t& sf,
     // Lines are written straight into room taken from `out` a few kilobytes at a time.
     char* p = nullptr;
     char* roomEnd = nullptr;
-    for (const PlannedRun& run : plan_->runs) {
-        if (run.rawPass != rawPass || !selected(run.layoutId, run.subframe, run.page)) {
-            continue;
-        }
-        for (const PlannedLine& line : plan_->lines.subspan(run.first, run.count)) {
-            const std::size_t room = line.room();
-            if (static_cast<std::size_t>(roomEnd - p) < room) {
-                if (p != nullptr) {
-                    out.commit(p);
-                }
-                const std::size_t chunk = std::max(room, kRoomChunk);
-                p = out.reserve(chunk);
-                roomEnd = p + chunk;
+    forEachLine(sf, layoutId, rawPass, false, [&](std::size_t, const PlannedLine& line) {
+        const std::size_t room = line.room();
+        if (static_cast<std::size_t>(roomEnd - p) < room) {
+            if (p != nullptr) {
+                out.commit(p);
             }
-            if (line.group != group) {
-                p = out.putLineEnd(p);
-                group = line.group;
-            }
-            p = writeLine(p, line, bits, out);
+            const std::size_t chunk = std::max(room, kRoomChunk);
+            p = out.reserve(chunk);
+            roomEnd = p + chunk;
         }
-    }
+        if (line.group != group) {
+            p = out.putLineEnd(p);
+            group = line.group;
+        }
+        p = writeLine(p, line, bits, out);
+    });
     if (p != nullptr) {
         out.commit(p);
     }

@@ -48,6 +48,34 @@ class SubframeIf {
     [[nodiscard]] std::span<const SubframeFieldInfo> fields() const noexcept {
         return {fields_, static_cast<std::size_t>(fieldCount_)};
     }
+    [[nodiscard]] const ListingPlan* plan() const noexcept { return plan_; }
+
+    // Calls fn(lineIndex, line) for each planned line of one pass that applies to the
+    // record's subframe and page (layout `layoutId`), in listing order; the printed
+    // lines only, or every planned line when `withUnprinted`. The one selection rule
+    // of the listing and of the records. Needs a plan.
+    template <class Fn>
+    void forEachLine(const subframe_t& sf, std::int32_t layoutId, bool rawPass, bool withUnprinted,
+                     Fn&& fn) const {
+        for (const PlannedRun& run : plan_->runs) {
+            if (run.rawPass != rawPass || (!run.printed && !withUnprinted) ||
+                !selected(sf, layoutId, run.layoutId, run.subframe, run.page)) {
+                continue;
+            }
+            for (std::size_t i = run.first; i < std::size_t{run.first} + run.count; ++i) {
+                fn(i, plan_->lines[i]);
+            }
+        }
+    }
+
+    // A subframe without pages is matched by its number alone; a paged entry needs the
+    // layout of the record's page.
+    static constexpr bool selected(const subframe_t& sf, std::int32_t layoutId,
+                                   std::int32_t entryLayout, std::int32_t subframe,
+                                   std::int32_t page) noexcept {
+        return entryLayout == 0 || (subframe == sf.subframe && page == 0) ||
+               entryLayout == layoutId;
+    }
 
   private:
     // Appends the entries of one pass: raw-pass entries from the record as received,
@@ -68,6 +96,11 @@ struct RawField {
     std::uint32_t value;
     std::int32_t width;
 };
+// What the listing prints on a planned line after its label (the leading blank
+// dropped), read from `bits`, the record's data padded with zeros to kPaddedDataBytes.
+// Appended to `out` without a line end.
+void appendLineValue(const PlannedLine& line, const std::uint8_t* bits, Text::TextBuffer& out);
+
 [[nodiscard]] RawField extractField(const SubframeFieldInfo& field,
                                     const std::uint8_t* data) noexcept;
 

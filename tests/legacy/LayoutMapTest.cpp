@@ -21,8 +21,8 @@ TEST(LayoutMap, EverySignal) {
     const std::map<std::string, std::pair<const SubframeIf*, std::size_t>> signals = {
         {"GpsLNav", {&GPS_L1CA_Interface, 228}},
         {"QzssLNav", {&QZSS_L1CA_Interface, 205}},
-        {"BeidouD1", {&BEIDOU_D1_Interface, 133}},
-        {"BeidouD2", {&BEIDOU_D2_Interface, 157}},
+        {"BeidouD1", {&BEIDOU_D1_Interface, 143}},
+        {"BeidouD2", {&BEIDOU_D2_Interface, 174}},
     };
     for (const auto& [name, signal] : signals) {
         EXPECT_EQ(signal.first->fields().size(), signal.second) << name;

@@ -10,7 +10,9 @@
 #include <string>
 #include <string_view>
 
+#include "zeltnavmsg/DecodedMessage.h"
 #include "zeltnavmsg/NavMessageDecoder.h"
+#include "zeltnavmsg/RecordOutput.h"
 
 namespace ZeltNavMsg::Testing {
 
@@ -32,17 +34,18 @@ inline std::ostream& operator<<(std::ostream& out, const DecodeOutcome& outcome)
                << (outcome.text.size() > kShown ? "...\"" : "\"");
 }
 
-// Decodes `hex` from a heap copy of exactly its size, so that AddressSanitizer reports
-// any read past the caller's bytes (a std::string would have its NUL and spare capacity
-// behind the last character).
-inline DecodeOutcome decodeOutcome(MessageFormat format, std::int32_t subframe, std::int32_t page,
-                                   std::string_view hex) {
+namespace Detail {
+
+template <class Call>
+DecodeOutcome outcomeOf(std::string_view hex, Call&& call) {
+    // From a heap copy of exactly its size, so that AddressSanitizer reports any read
+    // past the caller's bytes (a std::string would have its NUL and spare capacity
+    // behind the last character).
     const auto exact = std::make_unique_for_overwrite<char[]>(hex.size());
     std::copy(hex.begin(), hex.end(), exact.get());
     const std::string_view input(exact.get(), hex.size());
     try {
-        return {DecodeOutcome::Kind::Text,
-                NavMessageDecoder::Decode(format, subframe, page, input)};
+        return {DecodeOutcome::Kind::Text, call(input)};
     } catch (const DecodingError& e) {
         return {DecodeOutcome::Kind::DecodingError, e.what()};
     } catch (const std::out_of_range& e) {
@@ -54,6 +57,29 @@ inline DecodeOutcome decodeOutcome(MessageFormat format, std::int32_t subframe, 
     } catch (...) {
         return {DecodeOutcome::Kind::OtherError, "(not a std::exception)"};
     }
+}
+
+}  // namespace Detail
+
+// What Decode gives for `hex`.
+inline DecodeOutcome decodeOutcome(MessageFormat format, std::int32_t subframe, std::int32_t page,
+                                   std::string_view hex) {
+    return Detail::outcomeOf(hex, [&](std::string_view input) {
+        return NavMessageDecoder::Decode(format, subframe, page, input);
+    });
+}
+
+// What DecodeFields gives for `hex`: every field as one JSON record, or the error.
+inline DecodeOutcome recordsOutcome(MessageFormat format, std::int32_t subframe, std::int32_t page,
+                                    std::string_view hex) {
+    return Detail::outcomeOf(hex, [&](std::string_view input) {
+        const DecodedMessage m = NavMessageDecoder::DecodeFields(format, subframe, page, input);
+        std::string json;
+        RecordOptions all;
+        all.allFields = true;
+        AppendJsonRecord(json, m, RecordContext{}, all);
+        return json;
+    });
 }
 
 }  // namespace ZeltNavMsg::Testing

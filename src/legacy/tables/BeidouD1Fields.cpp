@@ -12,8 +12,21 @@ constexpr std::array<SubframeFieldInfo, kBeidouD1FieldCount> kBeidouD1Fields = {
     field("fraid", {{16, 3}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x0, 1, 1),
     field("sow", {{19, 8}, {31, 12}}, kUnsigned, 0.0, "seconds", 0, 0, 0, 0x0, 1),
 
+    // BCH parity of each word, where the decoded subframe keeps it: 4 bits after word
+    // 1's codeword, 8 after the two codewords of words 2-10. Never printed.
+    field("parity1", {{27, 4}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity2", {{53, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity3", {{83, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity4", {{113, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity5", {{143, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity6", {{173, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity7", {{203, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity8", {{233, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity9", {{263, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity10", {{293, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+
     // Subframe 1: health, issues of data, week, clock, group delays, ionosphere.
-    field("rev", {{12, 4}, {109, 4}, {121, 6}}, kUnsigned, 0.0, nullptr, 2, 1, 0, 0x20, 0),
+    field("rev", {{12, 4}}, kUnsigned, 0.0, nullptr, 2, 1, 0, 0x20, 0),
     field("sath1", {{43, 1}}, kUnsigned, 0.0, nullptr, 2, 1, 0, 0x0, 0),
     field("iodc", {{44, 5}}, kUnsigned, 0.0, nullptr, 2, 1, 0, 0x0, 0),
     field("urai", {{49, 4}}, kUnsigned, 0.0, nullptr, 2, 1, 0, 0x0, 0),
@@ -98,7 +111,7 @@ constexpr std::array<SubframeFieldInfo, kBeidouD1FieldCount> kBeidouD1Fields = {
     field("hea19", {{277, 9}}, kUnsigned, 0.0, nullptr, 8, 5, 7, 0x0, 0),
 
     // Subframe 5 page 8: health of SVs 20-30, almanac week and reference time.
-    field("rev", {{12, 4}, {43, 1}, {214, 63}}, kUnsigned, 0.0, nullptr, 9, 5, 8, 0x20, 0),
+    field("rev", {{12, 4}, {43, 1}, {214, 19}, {241, 22}, {271, 22}}, kUnsigned, 0.0, nullptr, 9, 5, 8, 0x20, 0),
     field("hea20", {{51, 2}, {61, 7}}, kUnsigned, 0.0, nullptr, 9, 5, 8, 0x0, 0),
     field("hea21", {{68, 9}}, kUnsigned, 0.0, nullptr, 9, 5, 8, 0x0, 0),
     field("hea22", {{77, 6}, {91, 3}}, kUnsigned, 0.0, nullptr, 9, 5, 8, 0x0, 0),
@@ -114,7 +127,7 @@ constexpr std::array<SubframeFieldInfo, kBeidouD1FieldCount> kBeidouD1Fields = {
     field("toa", {{198, 5}, {211, 3}}, kUnsigned, 0.0, "second", 9, 5, 8, 0x0, 0),
 
     // Subframe 5 page 9: offsets to GPS, Galileo and GLONASS time.
-    field("rev", {{12, 4}, {43, 1}, {51, 2}, {61, 22}, {91, 6}, {219, 58}}, kUnsigned, 0.0, nullptr, 10, 5, 9, 0x20, 0),
+    field("rev", {{12, 4}, {43, 1}, {51, 2}, {61, 22}, {91, 6}, {219, 14}, {241, 22}, {271, 22}}, kUnsigned, 0.0, nullptr, 10, 5, 9, 0x20, 0),
     field("a0gps", {{97, 14}}, kSignedScaled, 0.1, "nanosecond", 10, 5, 9, 0x0, 0),
     field("a1gps", {{111, 2}, {121, 14}}, kSignedScaled, 0.1, "nanosecond/second", 10, 5, 9, 0x0, 0),
     field("a0gal", {{135, 8}, {151, 6}}, kSignedScaled, 0.1, "nanosecond", 10, 5, 9, 0x0, 0),
@@ -123,7 +136,7 @@ constexpr std::array<SubframeFieldInfo, kBeidouD1FieldCount> kBeidouD1Fields = {
     field("a1glo", {{195, 8}, {211, 8}}, kSignedScaled, 0.1, "nanosecond/second", 10, 5, 9, 0x0, 0),
 
     // Subframe 5 page 10: leap seconds and UTC offset.
-    field("rev", {{12, 4}, {43, 1}, {171, 90}}, kUnsigned, 0.0, nullptr, 11, 5, 10, 0x20, 0),
+    field("rev", {{12, 4}, {43, 1}, {171, 2}, {181, 22}, {211, 22}, {241, 22}, {271, 22}}, kUnsigned, 0.0, nullptr, 11, 5, 10, 0x20, 0),
     field("deltatls", {{51, 2}, {61, 6}}, kUnsigned, 0.0, "second", 11, 5, 10, 0x0, 0),
     field("deltatlsf", {{67, 8}}, kUnsigned, 0.0, "second", 11, 5, 10, 0x0, 0),
     field("wnlsf", {{75, 8}}, kUnsigned, 0.0, "weeks", 11, 5, 10, 0x0, 0),

@@ -13,8 +13,22 @@ constexpr std::array<SubframeFieldInfo, kBeidouD2FieldCount> kBeidouD2Fields = {
     field("fraid", {{16, 3}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x0, 1, 1),
     field("sow", {{19, 8}, {31, 12}}, kUnsigned, 0.0, "seconds", 0, 0, 0, 0x0, 1),
 
+    // BCH parity of each word, where the decoded subframe keeps it: 4 bits after word
+    // 1's codeword, 8 after the two codewords of words 2-10. Never printed.
+    field("parity1", {{27, 4}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity2", {{53, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity3", {{83, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity4", {{113, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity5", {{143, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity6", {{173, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity7", {{203, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity8", {{233, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity9", {{263, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+    field("parity10", {{293, 8}}, kUnsigned, 0.0, nullptr, 0, 0, 0, 0x2, 0),
+
     // Subframe 1: page number, then the clock and ephemeris spread over pages 1-10.
     field("pnum", {{43, 4}}, kUnsigned, 0.0, nullptr, 2, 1, 0, 0x0, 1),
+    field("rev", {{151, 22}, {181, 22}, {211, 22}, {241, 22}, {271, 22}}, kUnsigned, 0.0, nullptr, 2, 1, 0, 0x20, 0),
 
     // Subframe 1 page 1: health, issues of data, week, toc, group delays.
     field("sath1", {{47, 1}}, kUnsigned, 0.0, nullptr, 3, 1, 1, 0x0, 0),
@@ -78,6 +92,7 @@ constexpr std::array<SubframeFieldInfo, kBeidouD2FieldCount> kBeidouD2Fields = {
     field("crc", {{66, 17}, {91, 1}}, kSignedScaled, pow2(-6), "meters", 10, 1, 8, 0x0, 0),
     field("crs", {{92, 18}}, kSignedScaled, pow2(-6), "meters", 10, 1, 8, 0x0, 0),
     field("omegadot_1", {{110, 3}, {121, 16}}, kUnsigned, 0.0, "19 MSB here, 5 LSB are in Subframe 1 Page 9", 10, 1, 8, 0x20, 0),
+    field("rev2", {{137, 6}}, kUnsigned, 0.0, nullptr, 10, 1, 8, 0x20, 0),
 
     // Page 9.
     field("omegadot_2", {{47, 5}}, kUnsigned, 0.0, "5 LSB here, 19 MSB are in Subframe 1 Page 8", 11, 1, 9, 0x0, 0),
@@ -94,10 +109,16 @@ constexpr std::array<SubframeFieldInfo, kBeidouD2FieldCount> kBeidouD2Fields = {
     field("pnum", {{44, 4}}, kUnsigned, 0.0, nullptr, 13, 2, 0, 0x0, 1),
     field("rev1", {{43, 1}}, kUnsigned, 0.0, nullptr, 13, 2, 0, 0x20, 0),
     field("sath2", {{48, 2}}, kUnsigned, 0.0, nullptr, 13, 2, 0, 0x0, 0),
-    field("rev1", {{43, 1}}, kUnsigned, 0.0, nullptr, 14, 3, 0, 0x20, 0),
-    field("rev1", {{43, 1}}, kUnsigned, 0.0, nullptr, 15, 4, 0, 0x20, 0),
+    field("rev2", {{50, 3}, {61, 22}, {91, 22}, {121, 22}, {151, 22}}, kUnsigned, 0.0, nullptr, 13, 2, 0, 0x20, 0),
+    field("rev2b", {{181, 22}, {211, 22}, {241, 22}, {271, 22}}, kUnsigned, 0.0, nullptr, 13, 2, 0, 0x20, 0),
+    field("rev1", {{43, 10}, {61, 22}, {91, 22}, {121, 22}, {151, 22}}, kUnsigned, 0.0, nullptr, 14, 3, 0, 0x20, 0),
+    field("rev1b", {{181, 22}, {211, 22}, {241, 22}, {271, 22}}, kUnsigned, 0.0, nullptr, 14, 3, 0, 0x20, 0),
+    field("rev1", {{43, 10}, {61, 22}, {91, 22}, {121, 22}, {151, 22}}, kUnsigned, 0.0, nullptr, 15, 4, 0, 0x20, 0),
+    field("rev1b", {{181, 22}, {211, 22}, {241, 22}, {271, 22}}, kUnsigned, 0.0, nullptr, 15, 4, 0, 0x20, 0),
     field("pnum", {{44, 7}}, kUnsigned, 0.0, nullptr, 16, 5, 0, 0x0, 1),
     field("rev1", {{43, 1}}, kUnsigned, 0.0, nullptr, 16, 5, 0, 0x20, 0),
+    field("rev2", {{51, 2}, {61, 22}, {91, 22}, {121, 22}, {151, 22}}, kUnsigned, 0.0, nullptr, 17, 0, 0, 0x20, 0),
+    field("rev2b", {{181, 22}, {211, 22}, {241, 22}, {271, 22}}, kUnsigned, 0.0, nullptr, 17, 0, 0, 0x20, 0),
 
     // Subframe 5 page 35: health of SVs 1-19.
     field("hea1", {{51, 2}, {61, 7}}, kUnsigned, 0.0, nullptr, 18, 5, 35, 0x0, 0),
@@ -135,7 +156,7 @@ constexpr std::array<SubframeFieldInfo, kBeidouD2FieldCount> kBeidouD2Fields = {
     field("hea30", {{181, 9}}, kUnsigned, 0.0, nullptr, 19, 5, 36, 0x0, 0),
     field("wna", {{190, 8}}, kUnsigned, 0.0, nullptr, 19, 5, 36, 0x0, 0),
     field("toa", {{198, 5}, {211, 3}}, kUnsigned, 0.0, "second", 19, 5, 36, 0x0, 0),
-    field("rev3", {{214, 63}}, kUnsigned, 0.0, nullptr, 19, 5, 36, 0x20, 0),
+    field("rev3", {{214, 19}, {241, 22}, {271, 22}}, kUnsigned, 0.0, nullptr, 19, 5, 36, 0x20, 0),
 
     // Almanac: subframe 5 pages 37-60 and 95-100.
     field("sqrta", {{51, 2}, {61, 22}}, kUnsignedScaled, pow2(-11), "meters^(-2)", 20, 0, 0, 0x0, 0),
@@ -151,7 +172,7 @@ constexpr std::array<SubframeFieldInfo, kBeidouD2FieldCount> kBeidouD2Fields = {
     field("AmEpID", {{291, 2}}, kUnsigned, 0.0, nullptr, 20, 0, 0, 0x0, 0),
 
     // Subframe 5 page 101: offsets to GPS, Galileo and GLONASS time.
-    field("rev", {{51, 2}, {61, 22}, {91, 6}, {219, 58}}, kUnsigned, 0.0, nullptr, 21, 5, 101, 0x20, 0),
+    field("rev", {{51, 2}, {61, 22}, {91, 6}, {219, 14}, {241, 22}, {271, 22}}, kUnsigned, 0.0, nullptr, 21, 5, 101, 0x20, 0),
     field("a0gps", {{97, 14}}, kSignedScaled, 0.1, "nanosecond", 21, 5, 101, 0x0, 0),
     field("a1gps", {{111, 2}, {121, 14}}, kSignedScaled, 0.1, "nanosecond/second", 21, 5, 101, 0x0, 0),
     field("a0gal", {{135, 8}, {151, 6}}, kSignedScaled, 0.1, "nanosecond", 21, 5, 101, 0x0, 0),
@@ -166,11 +187,10 @@ constexpr std::array<SubframeFieldInfo, kBeidouD2FieldCount> kBeidouD2Fields = {
     field("a0utc", {{91, 22}, {121, 10}}, kSignedScaled, 9.31322574615e-10, "second", 22, 5, 102, 0x0, 0),
     field("a1utc", {{131, 12}, {151, 12}}, kSignedScaled, 8.881784197e-16, "second/second", 22, 5, 102, 0x0, 0),
     field("dn", {{163, 8}}, kUnsigned, 0.0, "days", 22, 5, 102, 0x0, 0),
-    field("rev2", {{171, 30}}, kUnsigned, 0.0, nullptr, 22, 5, 102, 0x20, 0),
-    field("rev3", {{200, 31}}, kUnsigned, 0.0, nullptr, 22, 5, 102, 0x20, 0),
-    field("rev4", {{231, 30}}, kUnsigned, 0.0, nullptr, 22, 5, 102, 0x20, 0),
-    field("par1", {{261, 20}}, kUnsigned, 0.0, nullptr, 22, 5, 102, 0x20, 0),
-    field("par2", {{281, 20}}, kUnsigned, 0.0, nullptr, 22, 5, 102, 0x20, 0),
+    field("rev2", {{171, 2}, {181, 22}}, kUnsigned, 0.0, nullptr, 22, 5, 102, 0x20, 0),
+    field("rev3", {{211, 22}}, kUnsigned, 0.0, nullptr, 22, 5, 102, 0x20, 0),
+    field("rev4", {{241, 22}}, kUnsigned, 0.0, nullptr, 22, 5, 102, 0x20, 0),
+    field("rev5", {{271, 22}}, kUnsigned, 0.0, nullptr, 22, 5, 102, 0x20, 0),
 
     // Almanac of subframe 5 pages 103-115, with AmID in place of AmEpID.
     field("sqrta", {{51, 2}, {61, 22}}, kUnsignedScaled, pow2(-11), "meters^(-2)", 23, 0, 0, 0x0, 0),

@@ -11,8 +11,8 @@ namespace ZeltNavMsg::Legacy {
 
 inline constexpr std::size_t kGpsL1caFieldCount = 228;
 inline constexpr std::size_t kQzssL1caFieldCount = 205;
-inline constexpr std::size_t kBeidouD1FieldCount = 133;
-inline constexpr std::size_t kBeidouD2FieldCount = 157;
+inline constexpr std::size_t kBeidouD1FieldCount = 143;
+inline constexpr std::size_t kBeidouD2FieldCount = 174;
 
 // Constant-initialised: usable from any static initialiser of a host.
 extern const std::array<SubframeFieldInfo, kGpsL1caFieldCount> kGpsL1caFields;

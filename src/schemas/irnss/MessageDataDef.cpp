@@ -10,6 +10,7 @@ MessageDataDef::MessageDataDef(BitStructDef* parent, std::string name, std::vect
                                const Modifiers& modifiers)
     : SelectedByFieldDef(parent, std::move(name), std::move(ranges), modifiers),
       messageId(this, "Message ID", bits(0, 6)),
+      messageBody(this, "Message data", bits(6, 220), {flag(Hidden)}),
       message5(this, "Message type 5 - Ionospheric grid corrections", bits(6, 220),
                {container(5), flag(NoDefaults)}),
       message7(this, "Message type 7 - Almanac", bits(6, 220), {container(7), flag(NoDefaults)}),

@@ -20,6 +20,7 @@ class MessageDataDef : public SelectedByFieldDef {
                    const Modifiers& modifiers = {});
 
     Schema::Unsigned messageId;
+    Schema::Unsigned messageBody;  // the 220 body bits as one hidden raw field
     Message5Def message5;
     Message7Def message7;
     Message9Def message9;

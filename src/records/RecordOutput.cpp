@@ -1,0 +1,368 @@
+#include "zeltnavmsg/RecordOutput.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstring>
+
+#include "records/FieldDetail.h"
+
+namespace ZeltNavMsg {
+
+namespace {
+
+constexpr std::array<std::string_view, 5> kKinds = {"unsigned", "signed", "real", "flag",
+                                                    "character"};
+constexpr std::array<std::string_view, 4> kRoles = {"data", "reserved", "check", "word"};
+constexpr char kHexDigits[] = "0123456789ABCDEF";
+
+void appendInteger(std::string& out, std::int64_t n) {
+    char digits[24];
+    const auto r = std::to_chars(digits, digits + sizeof digits, n);
+    out.append(digits, r.ptr);
+}
+
+}  // namespace
+
+namespace Records {
+
+// The shortest text that reads back as the same double, as std::to_chars writes it.
+// Most values are integers (counts, flags, seconds): their digits are that text
+// unless the exponent form is shorter ("1e+05" for 100000), so they skip the general
+// algorithm.
+char* writeShortest(char* p, double v) noexcept {
+    constexpr double kExact = 9007199254740992.0;  // 2^53
+    if (v > -kExact && v < kExact) {
+        const auto n = static_cast<std::int64_t>(v);
+        if (static_cast<double>(n) == v && !(n == 0 && std::signbit(v))) {
+            char digits[24];
+            const auto r = std::to_chars(digits, digits + sizeof digits, n < 0 ? -n : n);
+            const auto count = static_cast<int>(r.ptr - digits);
+            int significant = count;
+            while (significant > 1 && digits[significant - 1] == '0') {
+                --significant;
+            }
+            // d[.ddd]e+XX: the exponent of an integer below 2^53 has two digits.
+            const int exponentForm = (significant == 1 ? 1 : significant + 1) + 4;
+            if (count <= exponentForm) {
+                if (n < 0) {
+                    *p++ = '-';
+                }
+                std::memcpy(p, digits, static_cast<std::size_t>(count));
+                return p + count;
+            }
+        }
+    }
+    return std::to_chars(p, p + 32, v).ptr;
+}
+
+}  // namespace Records
+
+namespace {
+
+void appendNumber(std::string& out, double v) {
+    char digits[32];
+    out.append(digits, Records::writeShortest(digits, v));
+}
+
+// `digits` upper-case hex digits of the low bits of `v`.
+void appendHex(std::string& out, std::uint64_t v, std::int32_t digits) {
+    char text[16];
+    const std::int32_t n = digits < 1 ? 1 : digits > 16 ? 16 : digits;
+    for (std::int32_t i = n - 1; i >= 0; --i, v >>= 4) {
+        text[i] = kHexDigits[v & 0xF];
+    }
+    out.append(text, static_cast<std::size_t>(n));
+}
+
+// A JSON string. Bytes from 0x80 up are Latin-1 characters (a broadcast character
+// can be any byte) and are escaped, so that the output is ASCII whatever was sent.
+void appendJsonString(std::string& out, std::string_view s) {
+    out.push_back('"');
+    std::size_t plain = 0;
+    for (std::size_t i = 0; i < s.size(); ++i) {
+        const auto c = static_cast<unsigned char>(s[i]);
+        if (c >= 0x20 && c < 0x80 && c != '"' && c != '\\') {
+            continue;
+        }
+        out.append(s.substr(plain, i - plain));
+        plain = i + 1;
+        switch (c) {
+            case '"':
+                out.append("\\\"");
+                break;
+            case '\\':
+                out.append("\\\\");
+                break;
+            case '\n':
+                out.append("\\n");
+                break;
+            case '\r':
+                out.append("\\r");
+                break;
+            case '\t':
+                out.append("\\t");
+                break;
+            default: {
+                const char escape[6] = {
+                    '\\', 'u', '0', '0', kHexDigits[c >> 4], kHexDigits[c & 0xF]};
+                out.append(escape, sizeof escape);
+                break;
+            }
+        }
+    }
+    out.append(s.substr(plain));
+    out.push_back('"');
+}
+
+void appendJsonBits(std::string& out, std::span<const BitSegment> bits) {
+    out.push_back('[');
+    for (std::size_t i = 0; i < bits.size(); ++i) {
+        out.append(i == 0 ? "[" : ",[");
+        appendInteger(out, bits[i].first);
+        out.push_back(',');
+        appendInteger(out, bits[i].count);
+        out.push_back(']');
+    }
+    out.push_back(']');
+}
+
+bool shown(const DecodedField& f, const RecordOptions& options) {
+    return options.allFields || f.role() == FieldRole::Data;
+}
+
+// A character field's byte as text: itself for JSON (escaped there), and for CSV its
+// Latin-1 code point in UTF-8.
+std::string_view characterOf(const DecodedField& f, char (&buffer)[2], bool utf8) {
+    const auto c = static_cast<unsigned char>(f.raw() & 0xFF);
+    if (!utf8 || c < 0x80) {
+        buffer[0] = static_cast<char>(c);
+        return {buffer, 1};
+    }
+    buffer[0] = static_cast<char>(0xC0 | (c >> 6));
+    buffer[1] = static_cast<char>(0x80 | (c & 0x3F));
+    return {buffer, 2};
+}
+
+// A CSV cell: quoted (quotes doubled) when it holds a comma, quote or line break.
+void appendCsvCell(std::string& out, std::string_view s) {
+    if (s.find_first_of(",\"\r\n") == std::string_view::npos) {
+        out.append(s);
+        return;
+    }
+    out.push_back('"');
+    for (const char c : s) {
+        if (c == '"') {
+            out.push_back('"');
+        }
+        out.push_back(c);
+    }
+    out.push_back('"');
+}
+
+}  // namespace
+
+namespace Records {
+
+void describeForOutput(const FieldInfo& info, FieldDetail& detail) {
+    std::string head = "{\"path\":";
+    appendJsonString(head, info.path);
+    head.append(",\"name\":");
+    appendJsonString(head, info.name);
+    head.append(",\"kind\":\"");
+    head.append(kKinds[static_cast<std::size_t>(info.kind)]);
+    detail.jsonHead = head;
+    detail.jsonHead.append("\",\"value\":");
+    detail.jsonHeadWithRole = head;
+    detail.jsonHeadWithRole.append("\",\"role\":\"");
+    detail.jsonHeadWithRole.append(kRoles[static_cast<std::size_t>(info.role)]);
+    detail.jsonHeadWithRole.append("\",\"value\":");
+    detail.jsonMid.assign(",\"units\":");
+    appendJsonString(detail.jsonMid, info.units);
+    detail.jsonMid.append(",\"raw\":\"");
+    detail.jsonTail.assign("\",\"bits\":");
+    appendJsonBits(detail.jsonTail, info.bits);
+    detail.jsonTail.push_back('}');
+
+    detail.csvNames.clear();
+    appendCsvCell(detail.csvNames, info.path);
+    detail.csvNames.push_back(',');
+    appendCsvCell(detail.csvNames, info.name);
+    detail.csvNames.push_back(',');
+    detail.csvUnits.assign(1, ',');
+    appendCsvCell(detail.csvUnits, info.units);
+    detail.csvUnits.push_back(',');
+}
+
+}  // namespace Records
+
+std::string_view MessageFormatName(MessageFormat format) noexcept {
+    switch (format) {
+        case MessageFormat::GpsLNav:
+            return "GpsLNav";
+        case MessageFormat::GpsCNav2:
+            return "GpsCNav2";
+        case MessageFormat::CNav:
+            return "CNav";
+        case MessageFormat::GlonassFdma:
+            return "GlonassFdma";
+        case MessageFormat::GalileoINav:
+            return "GalileoINav";
+        case MessageFormat::GalileoFNav:
+            return "GalileoFNav";
+        case MessageFormat::BeidouD1:
+            return "BeidouD1";
+        case MessageFormat::BeidouD2:
+            return "BeidouD2";
+        case MessageFormat::BeidouCNav1:
+            return "BeidouCNav1";
+        case MessageFormat::BeidouCNav2:
+            return "BeidouCNav2";
+        case MessageFormat::QzssLNav:
+            return "QzssLNav";
+        case MessageFormat::Irnss:
+            return "Irnss";
+        case MessageFormat::Sbas:
+            return "Sbas";
+    }
+    return "";
+}
+
+void AppendJsonRecord(std::string& out, const DecodedMessage& message, const RecordContext& context,
+                      const RecordOptions& options) {
+    out.push_back('{');
+    if (context.line > 0) {
+        out.append("\"line\":");
+        appendInteger(out, context.line);
+        out.push_back(',');
+    }
+    out.append("\"sat\":");
+    appendJsonString(out, context.sat);
+    if (!context.signal.empty()) {
+        out.append(",\"signal\":");
+        appendJsonString(out, context.signal);
+    }
+    if (context.hasTime) {
+        out.append(",\"time\":{\"week\":");
+        appendInteger(out, context.week);
+        out.append(",\"tow\":");
+        appendNumber(out, context.tow);
+        out.push_back('}');
+    }
+    out.append(",\"format\":");
+    appendJsonString(out, MessageFormatName(message.format()));
+    out.append(",\"subframe\":");
+    appendInteger(out, message.subframe());
+    out.append(",\"page\":");
+    appendInteger(out, message.page());
+    out.append(",\"layout\":");
+    appendJsonString(out, message.layout());
+    out.append(",\"fields\":[");
+    bool first = true;
+    for (const DecodedField& f : message.fields()) {
+        if (!shown(f, options)) {
+            continue;
+        }
+        const auto& text = *static_cast<const Records::FieldDetail*>(f.info().detail);
+        if (!first) {
+            out.push_back(',');
+        }
+        first = false;
+        out.append(options.allFields ? text.jsonHeadWithRole : text.jsonHead);
+        if (f.kind() == ValueKind::Character) {
+            char buffer[2];
+            appendJsonString(out, characterOf(f, buffer, false));
+        } else {
+            appendNumber(out, f.value());
+        }
+        out.append(text.jsonMid);
+        appendHex(out, f.raw(), (f.bitCount() + 3) / 4);
+        out.append(text.jsonTail);
+    }
+    out.append("],\"checks\":[");
+    first = true;
+    for (const CheckResult& c : message.checks()) {
+        out.append(first ? "{\"name\":" : ",{\"name\":");
+        first = false;
+        appendJsonString(out, c.name);
+        out.append(c.ok() ? ",\"ok\":true" : ",\"ok\":false");
+        if (c.status == CheckStatus::Incomplete) {
+            out.append(",\"incomplete\":true");
+        }
+        out.append(",\"bits\":");
+        appendJsonBits(out, c.bits);
+        out.append(",\"computed\":\"");
+        appendHex(out, c.computed, (c.checkBits + 3) / 4);
+        out.append("\",\"received\":\"");
+        appendHex(out, c.received, (c.checkBits + 3) / 4);
+        out.push_back('"');
+        if (c.correctedBit >= 0) {
+            out.append(",\"corrected\":");
+            appendInteger(out, c.correctedBit);
+        }
+        out.push_back('}');
+    }
+    out.append(message.ok() ? "],\"ok\":true}\n" : "],\"ok\":false}\n");
+}
+
+void AppendJsonError(std::string& out, std::int64_t line, std::string_view type,
+                     std::string_view message) {
+    out.push_back('{');
+    if (line > 0) {
+        out.append("\"line\":");
+        appendInteger(out, line);
+        out.push_back(',');
+    }
+    out.append("\"error\":{\"type\":");
+    appendJsonString(out, type);
+    out.append(",\"message\":");
+    appendJsonString(out, message);
+    out.append("}}\n");
+}
+
+std::string_view CsvHeader() noexcept {
+    return "line,sat,format,subframe,page,path,name,value,units,raw,ok\n";
+}
+
+void AppendCsvRows(std::string& out, const DecodedMessage& message, const RecordContext& context,
+                   const RecordOptions& options) {
+    // What every row of the message starts with, once.
+    std::string head;
+    if (context.line > 0) {
+        appendInteger(head, context.line);
+    }
+    head.push_back(',');
+    appendCsvCell(head, context.sat);
+    head.push_back(',');
+    head.append(MessageFormatName(message.format()));
+    head.push_back(',');
+    appendInteger(head, message.subframe());
+    head.push_back(',');
+    appendInteger(head, message.page());
+    head.push_back(',');
+    const std::string_view verdict = message.ok() ? "true\n" : "false\n";
+    for (const DecodedField& f : message.fields()) {
+        if (!shown(f, options)) {
+            continue;
+        }
+        const auto& text = *static_cast<const Records::FieldDetail*>(f.info().detail);
+        out.append(head);
+        out.append(text.csvNames);
+        if (f.kind() == ValueKind::Character) {
+            // Always quoted, so that a blank or a control character stays one cell.
+            char buffer[2];
+            const std::string_view c = characterOf(f, buffer, true);
+            out.push_back('"');
+            out.append(c == "\"" ? std::string_view("\"\"") : c);
+            out.push_back('"');
+        } else {
+            appendNumber(out, f.value());
+        }
+        out.append(text.csvUnits);
+        appendHex(out, f.raw(), (f.bitCount() + 3) / 4);
+        out.push_back(',');
+        out.append(verdict);
+    }
+}
+
+}  // namespace ZeltNavMsg

@@ -1,0 +1,173 @@
+// JSON records read back through a real parser give the records exactly: keys in
+// place, every number the same double, raw hex the same bits, any broadcast byte of a
+// text message a valid string.
+
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include <charconv>
+#include <random>
+#include <string>
+
+#include "records/FieldDetail.h"
+#include "records/LayoutCases.h"
+#include "support/RealData.h"
+#include "support/SupportedFormats.h"
+#include "zeltnavmsg/DecodedMessage.h"
+#include "zeltnavmsg/RecordOutput.h"
+
+namespace ZeltNavMsg {
+namespace {
+
+using nlohmann::json;
+
+// Empty when `text` is `m` as a JSON record; else the first difference.
+std::string jsonMismatch(const DecodedMessage& m, const std::string& text, bool allFields) {
+    if (text.empty() || text.back() != '\n' || text.find('\n') != text.size() - 1) {
+        return "not one line";
+    }
+    const json j = json::parse(text);
+    const std::vector<std::string> keys = {"line",   "sat",    "format", "subframe", "page",
+                                           "layout", "fields", "checks", "ok"};
+    std::vector<std::string> got;
+    for (auto it = j.begin(); it != j.end(); ++it) {
+        got.push_back(it.key());
+    }
+    std::sort(got.begin(), got.end());
+    std::vector<std::string> want = keys;
+    std::sort(want.begin(), want.end());
+    if (got != want) {
+        return "keys differ";
+    }
+    if (j["format"] != MessageFormatName(m.format()) || j["layout"] != m.layout() ||
+        j["subframe"] != m.subframe() || j["page"] != m.page() || j["ok"] != m.ok()) {
+        return "message keys differ";
+    }
+    std::size_t i = 0;
+    for (const DecodedField& f : m.fields()) {
+        if (!allFields && f.role() != FieldRole::Data) {
+            continue;
+        }
+        const json& jf = j["fields"].at(i++);
+        if (jf["path"] != f.path() || jf["name"] != f.name() || jf["units"] != f.units()) {
+            return "names of " + std::string(f.path());
+        }
+        if (f.kind() == ValueKind::Character) {
+            const std::string s = jf["value"];
+            // One code point: the byte as Latin-1, UTF-8 encoded by the parser.
+            const std::u32string expected(1, static_cast<char32_t>(f.raw() & 0xFF));
+            std::u32string decoded;
+            for (std::size_t k = 0; k < s.size(); ++k) {
+                const auto c = static_cast<unsigned char>(s[k]);
+                decoded +=
+                    c < 0x80 ? c
+                             : static_cast<char32_t>(((c & 0x1FU) << 6) |
+                                                     (static_cast<unsigned char>(s[++k]) & 0x3FU));
+            }
+            if (decoded != expected) {
+                return "character of " + std::string(f.path());
+            }
+        } else if (jf["value"].get<double>() != f.value()) {
+            return "value of " + std::string(f.path());
+        }
+        if (std::stoull(jf["raw"].get<std::string>(), nullptr, 16) != f.raw() ||
+            jf["raw"].get<std::string>().size() !=
+                static_cast<std::size_t>((f.bitCount() + 3) / 4)) {
+            return "raw of " + std::string(f.path());
+        }
+        const json& bits = jf["bits"];
+        if (bits.size() != f.bits().size()) {
+            return "bits of " + std::string(f.path());
+        }
+        for (std::size_t b = 0; b < bits.size(); ++b) {
+            if (bits[b][0] != f.bits()[b].first || bits[b][1] != f.bits()[b].count) {
+                return "bits of " + std::string(f.path());
+            }
+        }
+    }
+    return i == j["fields"].size() ? "" : "field count";
+}
+
+TEST(RecordOutput, JsonReadsBackAsTheRecords) {
+    std::vector<Testing::LayoutCase> cases;
+    for (const Testing::SupportedFormat& f : Testing::kSupportedFormats) {
+        for (const Testing::RealMessage& r : Testing::loadRealData(f.realDataFile)) {
+            cases.push_back({f.format, r.subframe, r.page, r.hex, f.frameBits});
+        }
+    }
+    // Random text pages carry every kind of byte, quotes, backslashes and NULs among them.
+    std::mt19937 rng(5);
+    for (Testing::LayoutCase& c : Testing::layoutCases(&rng)) {
+        cases.push_back(std::move(c));
+    }
+    std::string line;
+    RecordContext context;
+    context.line = 7;
+    context.sat = "G\"05\\";
+    for (const Testing::LayoutCase& c : cases) {
+        const DecodedMessage m =
+            NavMessageDecoder::DecodeFields(c.format, c.subframe, c.page, c.hex);
+        for (const bool all : {false, true}) {
+            line.clear();
+            RecordOptions options;
+            options.allFields = all;
+            AppendJsonRecord(line, m, context, options);
+            EXPECT_EQ(jsonMismatch(m, line, all), "") << m.layout() << ": " << line.substr(0, 300);
+        }
+    }
+}
+
+// Integers take a shortcut; it must write what std::to_chars writes, around every
+// switch between the digits and the exponent form.
+TEST(RecordOutput, NumbersAreWhatToCharsWrites) {
+    std::vector<double> values = {0.0,
+                                  -0.0,
+                                  0.5,
+                                  1e-300,
+                                  1e300,
+                                  9007199254740992.0,
+                                  9007199254740993.0,
+                                  -9007199254740991.0,
+                                  123456789012345678.0};
+    for (double base = 1; base < 1e16; base *= 10) {
+        for (const double v : {base, base * 3, base + 1, base * 12, base * 120 + 1}) {
+            values.push_back(v);
+            values.push_back(-v);
+        }
+    }
+    for (const double v : values) {
+        char expected[64];
+        char got[64];
+        const std::string_view a(
+            expected,
+            static_cast<std::size_t>(std::to_chars(expected, expected + 64, v).ptr - expected));
+        const std::string_view b(got,
+                                 static_cast<std::size_t>(Records::writeShortest(got, v) - got));
+        EXPECT_EQ(b, a) << v;
+    }
+}
+
+TEST(RecordOutput, ErrorRecordsAndCsvQuoting) {
+    std::string out;
+    AppendJsonError(out, 3, "DecodingError", "Can't parse symbol as hex digit: \"\x01");
+    const json j = json::parse(out);
+    EXPECT_EQ(j["line"], 3);
+    EXPECT_EQ(j["error"]["message"], "Can't parse symbol as hex digit: \"\x01");
+
+    // A satellite name with a comma and quotes is one cell; a text character is quoted.
+    const DecodedMessage m = NavMessageDecoder::DecodeFields(
+        MessageFormat::GpsLNav, 4, 17,
+        Testing::loadRealData("gps_lnav.tsv").at(0).hex);  // any bits: page 17 is text
+    out = std::string(CsvHeader());
+    RecordContext context;
+    context.line = 2;
+    context.sat = "G,\"1\"";
+    AppendCsvRows(out, m, context);
+    EXPECT_EQ(out.substr(0, out.find('\n')),
+              "line,sat,format,subframe,page,path,name,value,units,raw,ok");
+    EXPECT_NE(out.find("\n2,\"G,\"\"1\"\"\",GpsLNav,4,17,ch01,ch01,\""), std::string::npos);
+}
+
+}  // namespace
+}  // namespace ZeltNavMsg
