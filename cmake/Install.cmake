@@ -1,5 +1,5 @@
 # Installs the library, its headers, the CLI, a CMake package
-# (find_package(ZeltNavMsg)) and a pkg-config file.
+# (find_package(ZeltNavMsg)), a pkg-config file and the documents.
 
 include(CMakePackageConfigHelpers)
 
@@ -13,6 +13,8 @@ install(TARGETS zeltnavmsg
     INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/zeltnavmsg
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(FILES ${ZELTNAVMSG_GENERATED_INCLUDE_DIR}/zeltnavmsg/Version.h
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/zeltnavmsg)
 if(TARGET navmsg)
     install(TARGETS navmsg RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()
@@ -34,3 +36,9 @@ configure_file(${PROJECT_SOURCE_DIR}/cmake/zeltnavmsg.pc.in
     ${PROJECT_BINARY_DIR}/zeltnavmsg.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/zeltnavmsg.pc
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+install(FILES
+    ${PROJECT_SOURCE_DIR}/LICENSE
+    ${PROJECT_SOURCE_DIR}/README.md
+    ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/zeltnavmsg)
