@@ -1,25 +1,40 @@
 # Installs the library, its headers, the CLI, a CMake package
-# (find_package(ZeltNavMsg)) and a pkg-config file.
+# (find_package(ZeltNavMsg)), a pkg-config file and the documents.
+#
+# Every rule names the component, that is the Debian package, its files go to
+# (cmake/Packaging.cmake): runtime (libzeltnavmsg0), dev (libzeltnavmsg-dev),
+# tools (zeltnavmsg-tools). A plain install installs them all.
 
 include(CMakePackageConfigHelpers)
 
 set(ZELTNAVMSG_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/ZeltNavMsg)
+set(ZELTNAVMSG_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/zeltnavmsg)
 
 install(TARGETS zeltnavmsg
     EXPORT ZeltNavMsgTargets
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
     INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+if(TARGET zeltnavmsg_static)
+    install(TARGETS zeltnavmsg_static
+        EXPORT ZeltNavMsgTargets
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev)
+endif()
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/zeltnavmsg
-    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+    COMPONENT dev)
+install(FILES ${ZELTNAVMSG_GENERATED_INCLUDE_DIR}/zeltnavmsg/Version.h
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/zeltnavmsg
+    COMPONENT dev)
 if(TARGET navmsg)
-    install(TARGETS navmsg RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    install(TARGETS navmsg RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
 endif()
 
 install(EXPORT ZeltNavMsgTargets
     NAMESPACE ZeltNavMsg::
-    DESTINATION ${ZELTNAVMSG_CMAKE_DIR})
+    DESTINATION ${ZELTNAVMSG_CMAKE_DIR}
+    COMPONENT dev)
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/ZeltNavMsgConfig.cmake.in
     ${PROJECT_BINARY_DIR}/ZeltNavMsgConfig.cmake
     INSTALL_DESTINATION ${ZELTNAVMSG_CMAKE_DIR})
@@ -28,9 +43,20 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/ZeltNavMsgConfigVersion.c
 install(FILES
     ${PROJECT_BINARY_DIR}/ZeltNavMsgConfig.cmake
     ${PROJECT_BINARY_DIR}/ZeltNavMsgConfigVersion.cmake
-    DESTINATION ${ZELTNAVMSG_CMAKE_DIR})
+    DESTINATION ${ZELTNAVMSG_CMAKE_DIR}
+    COMPONENT dev)
 
 configure_file(${PROJECT_SOURCE_DIR}/cmake/zeltnavmsg.pc.in
     ${PROJECT_BINARY_DIR}/zeltnavmsg.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/zeltnavmsg.pc
-    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+    COMPONENT dev)
+
+# The licence, the README and the changelog go with the library, which every other
+# package depends on.
+install(FILES
+    ${PROJECT_SOURCE_DIR}/LICENSE
+    ${PROJECT_SOURCE_DIR}/README.md
+    ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+    DESTINATION ${ZELTNAVMSG_DOC_DIR}
+    COMPONENT runtime)
