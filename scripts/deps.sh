@@ -3,7 +3,9 @@
 # are present. Extra package names given as arguments are checked too.
 set -euo pipefail
 
-packages=(cmake ninja-build g++ libgtest-dev libcli11-dev "$@")
+# The build and its tests; python3-dev, pybind11-dev and python3-pytest for the Python module.
+packages=(cmake ninja-build g++ libgtest-dev libcli11-dev
+          python3 python3-dev pybind11-dev python3-pytest "$@")
 
 missing=()
 for p in "${packages[@]}"; do
