@@ -1,10 +1,9 @@
 """Readable listings of GNSS navigation messages.
 
-    >>> import zeltnavmsg
-    >>> hex = "8b0d3487fffd614d351000091b1de78f322ebaf701369182b0dd6d7f8f6800ffd153eafc2f0"
-    >>> print(zeltnavmsg.decode("GpsLNav", 1, 0, hex))
-    >>> zeltnavmsg.message_format("C30", "CNAV2")
-    <MessageFormat.BeidouCNav2: 9>
+    import zeltnavmsg
+    hex = "8b0d3487fffd614d351000091b1de78f322ebaf701369182b0dd6d7f8f6800ffd153eafc2f0"
+    print(zeltnavmsg.decode("GpsLNav", 1, 0, hex))  # the listing of GPS LNAV subframe 1
+    zeltnavmsg.message_format("C30", "CNAV2")       # MessageFormat.BeidouCNav2
 
 Every function that takes a format accepts a MessageFormat member or its name
 ("GpsLNav"). The library's refusals raise DecodingError, a ValueError; an empty
@@ -28,11 +27,16 @@ from ._zeltnavmsg import (
 
 
 class Signal(NamedTuple):
+    """A signal of a system: its name for signal_type() and its SignalType."""
+
     name: str
     signal: SignalType
 
 
 class Format(NamedTuple):
+    """A format of a system: its name for message_format(), its MessageFormat, whether
+    it is the system's default and whether the library decodes it."""
+
     name: str
     format: MessageFormat
     default: bool
@@ -40,6 +44,9 @@ class Format(NamedTuple):
 
 
 class System(NamedTuple):
+    """A satellite system: the first letter of its satellites' names, its name, its
+    signals and formats."""
+
     letter: str
     name: str
     signals: tuple[Signal, ...]
