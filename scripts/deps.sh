@@ -3,7 +3,10 @@
 # are present. Extra package names given as arguments are checked too.
 set -euo pipefail
 
-packages=(cmake ninja-build g++ libgtest-dev libcli11-dev nlohmann-json3-dev "$@")
+# The build and its tests (nlohmann-json reads the JSON records back); python3-dev,
+# pybind11-dev and python3-pytest for the Python module.
+packages=(cmake ninja-build g++ libgtest-dev libcli11-dev
+          python3 python3-dev pybind11-dev python3-pytest nlohmann-json3-dev "$@")
 
 missing=()
 for p in "${packages[@]}"; do

@@ -246,27 +246,6 @@ int runBatch(const std::string& path, bool crlf) {
 
 // --- formats --------------------------------------------------------------
 
-constexpr std::string_view systemName(char letter) {
-    switch (letter) {
-        case 'G':
-            return "GPS";
-        case 'R':
-            return "GLONASS";
-        case 'E':
-            return "Galileo";
-        case 'C':
-            return "BeiDou";
-        case 'J':
-            return "QZSS";
-        case 'I':
-            return "IRNSS";
-        case 'S':
-            return "SBAS";
-        default:
-            return "?";
-    }
-}
-
 // Asks the library itself: 76 zero digits fit every format's input.
 bool formatDecodes(MessageFormat format) {
     try {
@@ -282,9 +261,9 @@ int runFormats() {
     out.write(
         "Satellite names start with the letter of their system; signal and format\n"
         "names are matched exactly (case-sensitive).\n\n");
-    for (const char letter : ZeltNavMsg::Names::kSystemLetters) {
+    for (const auto& [letter, system] : ZeltNavMsg::Names::kSystemNames) {
         std::string text(1, letter);
-        text.append("  ").append(systemName(letter)).append("\n    signals:");
+        text.append("  ").append(system).append("\n    signals:");
         for (const auto& row : ZeltNavMsg::Names::kSignalNames) {
             if (row.letter == letter) {
                 text.append(" ").append(row.name);

@@ -1,6 +1,7 @@
 #ifndef ZELTNAVMSG_API_FORMATNAMES_H
 #define ZELTNAVMSG_API_FORMATNAMES_H
 
+#include <cstddef>
 #include <string_view>
 
 #include "zeltnavmsg/NavMessageDecoder.h"
@@ -13,6 +14,27 @@ namespace ZeltNavMsg::Names {
 
 // First letter of a satellite name, per system.
 inline constexpr std::string_view kSystemLetters = "GRECJIS";
+
+struct SystemName {
+    char letter;
+    std::string_view name;
+};
+
+// The systems by letter, in the order of kSystemLetters, as hosts show them.
+inline constexpr SystemName kSystemNames[] = {
+    {'G', "GPS"},  {'R', "GLONASS"}, {'E', "Galileo"}, {'C', "BeiDou"},
+    {'J', "QZSS"}, {'I', "IRNSS"},   {'S', "SBAS"},
+};
+
+static_assert([] {
+    std::size_t i = 0;
+    for (const SystemName& row : kSystemNames) {
+        if (i >= kSystemLetters.size() || kSystemLetters[i++] != row.letter) {
+            return false;
+        }
+    }
+    return i == kSystemLetters.size();
+}());
 
 struct SignalName {
     char letter;
