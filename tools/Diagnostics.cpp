@@ -37,11 +37,17 @@ std::size_t utf8Sequence(std::string_view text, std::uint32_t& codePoint) {
     std::size_t length = 0;
     std::uint32_t minimum = 0;
     if (lead >= 0xC2 && lead <= 0xDF) {
-        length = 2, minimum = 0x80, codePoint = lead & 0x1FU;
+        length = 2;
+        minimum = 0x80;
+        codePoint = lead & 0x1FU;
     } else if (lead >= 0xE0 && lead <= 0xEF) {
-        length = 3, minimum = 0x800, codePoint = lead & 0x0FU;
+        length = 3;
+        minimum = 0x800;
+        codePoint = lead & 0x0FU;
     } else if (lead >= 0xF0 && lead <= 0xF4) {
-        length = 4, minimum = 0x10000, codePoint = lead & 0x07U;
+        length = 4;
+        minimum = 0x10000;
+        codePoint = lead & 0x07U;
     } else {
         return 0;
     }

@@ -57,7 +57,7 @@ bool LineReader::fill() {
 
 void LineReader::start() {
     started_ = true;
-    buffer_.reset(new char[kCapacity]);
+    buffer_ = std::make_unique_for_overwrite<char[]>(kCapacity);
     // A byte-order mark may arrive in pieces from a pipe; a terminal's short first
     // line must not wait for more.
     constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
