@@ -46,6 +46,31 @@ install(FILES
     DESTINATION ${ZELTNAVMSG_CMAKE_DIR}
     COMPONENT dev)
 
+# The pkg-config file finds the installation from its own place (${pcfiledir}, in
+# <libdir>/pkgconfig), so that a tree installed with any --prefix, or moved, still
+# works. Absolute install directories are taken as they are.
+set(ZELTNAVMSG_PC_PREFIX "\${pcfiledir}")
+string(REPLACE "/" ";" _zeltnavmsg_pc_parts "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+foreach(_zeltnavmsg_part IN LISTS _zeltnavmsg_pc_parts)
+    if(NOT _zeltnavmsg_part STREQUAL "" AND NOT _zeltnavmsg_part STREQUAL ".")
+        string(APPEND ZELTNAVMSG_PC_PREFIX "/..")
+    endif()
+endforeach()
+if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+    set(ZELTNAVMSG_PC_PREFIX "${CMAKE_INSTALL_PREFIX}")
+    set(ZELTNAVMSG_PC_LIBDIR "${CMAKE_INSTALL_LIBDIR}")
+else()
+    set(ZELTNAVMSG_PC_LIBDIR "\${prefix}/${CMAKE_INSTALL_LIBDIR}")
+endif()
+if(IS_ABSOLUTE "${CMAKE_INSTALL_INCLUDEDIR}")
+    set(ZELTNAVMSG_PC_INCLUDEDIR "${CMAKE_INSTALL_INCLUDEDIR}")
+else()
+    set(ZELTNAVMSG_PC_INCLUDEDIR "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
+endif()
+set(ZELTNAVMSG_PC_DEFINES "")
+if(BUILD_SHARED_LIBS)
+    set(ZELTNAVMSG_PC_DEFINES " -DZELTNAVMSG_SHARED")
+endif()
 configure_file(${PROJECT_SOURCE_DIR}/cmake/zeltnavmsg.pc.in
     ${PROJECT_BINARY_DIR}/zeltnavmsg.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/zeltnavmsg.pc

@@ -76,6 +76,30 @@ inline constexpr FormatName kFormatNames[] = {
     {'I', "IRNSS", MessageFormat::Irnss},       {'S', "SBAS", MessageFormat::Sbas},
 };
 
+struct FormatEnumerator {
+    MessageFormat format;
+    std::string_view name;
+};
+
+// The enumerator names of MessageFormat, in the order of their values. The command
+// line accepts them besides the systems' names, for a layout that one system
+// broadcasts under another's format and that has no name of its own there.
+inline constexpr FormatEnumerator kFormatEnumerators[] = {
+    {MessageFormat::GpsLNav, "GpsLNav"},
+    {MessageFormat::GpsCNav2, "GpsCNav2"},
+    {MessageFormat::CNav, "CNav"},
+    {MessageFormat::GlonassFdma, "GlonassFdma"},
+    {MessageFormat::GalileoINav, "GalileoINav"},
+    {MessageFormat::GalileoFNav, "GalileoFNav"},
+    {MessageFormat::BeidouD1, "BeidouD1"},
+    {MessageFormat::BeidouD2, "BeidouD2"},
+    {MessageFormat::BeidouCNav1, "BeidouCNav1"},
+    {MessageFormat::BeidouCNav2, "BeidouCNav2"},
+    {MessageFormat::QzssLNav, "QzssLNav"},
+    {MessageFormat::Irnss, "Irnss"},
+    {MessageFormat::Sbas, "Sbas"},
+};
+
 struct DefaultFormat {
     char letter;
     std::string_view name;

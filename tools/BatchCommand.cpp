@@ -1,0 +1,128 @@
+#include "BatchCommand.h"
+
+#include <CLI/CLI.hpp>
+
+#include <array>
+#include <charconv>
+#include <optional>
+
+#include "ExitStatus.h"
+#include "FormatLookup.h"
+#include "LineReader.h"
+#include "Output.h"
+
+namespace Navmsg {
+
+namespace {
+
+// The white-space separated words of a batch line: the first kMaxWords of them and
+// how many there are (counted up to kMaxWords + 1, enough to tell "too many").
+struct Words {
+    static constexpr std::size_t kMaxWords = 5;
+    std::array<std::string_view, kMaxWords> word;
+    std::size_t count = 0;
+};
+
+Words splitWords(std::string_view line) {
+    Words w;
+    constexpr std::string_view kBlanks = " \t\r\v\f";
+    for (std::size_t start = line.find_first_not_of(kBlanks);
+         start != std::string_view::npos && w.count <= Words::kMaxWords;) {
+        const std::size_t end = line.find_first_of(kBlanks, start);
+        if (w.count < Words::kMaxWords) {
+            w.word[w.count] = line.substr(start, end == std::string_view::npos ? end : end - start);
+        }
+        ++w.count;
+        start = end == std::string_view::npos ? end : line.find_first_not_of(kBlanks, end);
+    }
+    return w;
+}
+
+std::optional<std::int32_t> parseInt32(std::string_view text) {
+    std::int32_t value = 0;
+    const char* end = text.data() + text.size();
+    const auto [ptr, ec] = std::from_chars(text.data(), end, value);
+    if (ec != std::errc() || ptr != end) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+}  // namespace
+
+BatchCommand::BatchCommand(CLI::App& app)
+    : command_(app.add_subcommand(
+          "batch",
+          "Decode every line 'SAT FORMAT SUBFRAME PAGE HEX' of a file (# starts a comment)")) {
+    command_->add_option("FILE", path_, "Input file, or - for standard input")->required();
+    addMessageOptions(*command_, options_);
+    command_->footer(
+        std::string("FORMAT is a format name of the satellite's system (LNAV, D1, ...) "
+                    "or a MessageFormat\nname (GpsCNav2, ...).\n\n"
+                    "Examples:\n"
+                    "  navmsg batch examples/messages.txt\n"
+                    "  grep '^C' messages.txt | navmsg batch --strict - > listings.txt\n"
+                    "\n") +
+        std::string(kExitStatusHelp));
+}
+
+bool BatchCommand::selected() const {
+    return command_->parsed();
+}
+
+int BatchCommand::run(Output& out) const {
+    LineReader reader(path_);
+    if (reader.head().find('\0') != std::string_view::npos) {
+        throw UsageError{reader.name() +
+                         ": looks like a binary file; for receiver logs use 'navmsg log'"};
+    }
+    out.keepCrlf(options_.crlf);
+    Diagnostics diagnostics(out, true);
+    std::string listing;
+    for (LineReader::Line line; reader.next(line);) {
+        const Place place = Place::line(line.number);
+        if (line.tooLong) {
+            diagnostics.failure(
+                place, "line longer than " + std::to_string(LineReader::kMaxLine) + " bytes");
+            continue;
+        }
+        const Words w = splitWords(line.text);
+        if (w.count == 0 || w.word[0].starts_with('#')) {
+            continue;
+        }
+        if (w.count != Words::kMaxWords) {
+            diagnostics.failure(place, "expected SAT FORMAT SUBFRAME PAGE HEX");
+            continue;
+        }
+        const std::optional<std::int32_t> subframe = parseInt32(w.word[2]);
+        const std::optional<std::int32_t> page = parseInt32(w.word[3]);
+        if (!subframe || !page) {
+            diagnostics.failure(place, "SUBFRAME and PAGE must be 32-bit integers");
+            continue;
+        }
+        ZeltNavMsg::MessageFormat format{};
+        try {
+            format = resolveFormat(w.word[0], w.word[1]);
+        } catch (const std::exception& e) {
+            diagnostics.failure(place, e.what());
+            continue;
+        }
+        if (!decodeMessage({w.word[0], w.word[1], format, *subframe, *page, w.word[4]}, place,
+                           options_, diagnostics, listing)) {
+            continue;
+        }
+        out.put("# line ");
+        out.putNumber(line.number);
+        for (const std::string_view piece :
+             {std::string_view(": "), w.word[0], std::string_view(" "), w.word[1],
+              std::string_view(" subframe "), w.word[2], std::string_view(" page "), w.word[3]}) {
+            out.put(piece);
+        }
+        out.lineEnd();
+        out.writeListing(listing);
+        out.lineEnd();
+    }
+    return diagnostics.failed() ? kExitFailedMessage : kExitOk;
+}
+
+}  // namespace Navmsg

@@ -1,0 +1,79 @@
+#include "DecodeCommand.h"
+
+#include <CLI/CLI.hpp>
+
+#include "ExitStatus.h"
+#include "FormatLookup.h"
+#include "LineReader.h"
+#include "Output.h"
+
+namespace Navmsg {
+
+DecodeCommand::DecodeCommand(CLI::App& app)
+    : command_(app.add_subcommand("decode", "Decode messages given on the command line")) {
+    command_->add_option("--sat", sat_, "Satellite name, e.g. G05, C11, J01, I09")->required();
+    command_->add_option("--format", format_,
+                         "Message format, e.g. LNAV, CNAV2, D1, or a MessageFormat name such as "
+                         "GpsCNav2 (default: the system's default)");
+    command_->add_option("--subframe", subframe_, "Subframe number (default 0)");
+    command_->add_option("--page", page_, "Page number (default 0)");
+    addMessageOptions(*command_, options_);
+    command_
+        ->add_option("HEX", hex_, "Message bits as hex; - reads one message per line from stdin")
+        ->required();
+    command_->footer(
+        std::string("Examples:\n"
+                    "  navmsg decode --sat G04 --subframe 1 "
+                    "8b0d3487fffd614d351000091b1de78f322ebaf701369182b0dd6d7f8f6800ffd153eafc2f0\n"
+                    "  cut -f5 subframes.txt | navmsg decode --sat C11 --format D1 --subframe 1 -\n"
+                    "\n") +
+        std::string(kExitStatusHelp));
+}
+
+bool DecodeCommand::selected() const {
+    return command_->parsed();
+}
+
+int DecodeCommand::run(Output& out) const {
+    const std::string formatName = format_.empty() ? defaultFormatName(sat_) : format_;
+    ZeltNavMsg::MessageFormat format{};
+    try {
+        format = resolveFormat(sat_, formatName);
+    } catch (const std::exception& e) {
+        throw UsageError{e.what()};
+    }
+    out.keepCrlf(options_.crlf);
+    Diagnostics diagnostics(out, true);
+    bool first = true;
+    std::string listing;
+    const auto decodeOne = [&](std::string_view hex, Place place) {
+        if (!decodeMessage({sat_, formatName, format, subframe_, page_, hex}, place, options_,
+                           diagnostics, listing)) {
+            return;
+        }
+        if (!first) {
+            out.lineEnd();
+        }
+        first = false;
+        out.writeListing(listing);
+    };
+    for (std::size_t i = 0; i < hex_.size(); ++i) {
+        if (hex_[i] != "-") {
+            decodeOne(hex_[i], Place::argument(static_cast<long>(i) + 1));
+            continue;
+        }
+        LineReader reader("-");
+        for (LineReader::Line line; reader.next(line);) {
+            if (line.tooLong) {
+                diagnostics.failure(
+                    Place::line(line.number),
+                    "line longer than " + std::to_string(LineReader::kMaxLine) + " bytes");
+            } else if (line.text.find_first_not_of(" \t\r\v\f") != std::string_view::npos) {
+                decodeOne(line.text, Place::line(line.number));
+            }
+        }
+    }
+    return diagnostics.failed() ? kExitFailedMessage : kExitOk;
+}
+
+}  // namespace Navmsg
