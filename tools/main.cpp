@@ -21,6 +21,7 @@
 #include "ExitStatus.h"
 #include "FormatsCommand.h"
 #include "Output.h"
+#include "zeltnavmsg/Version.h"
 
 namespace {
 
@@ -51,7 +52,7 @@ void holdClosedStandardDescriptors() {
 int run(int argc, char** argv, Output& out) {
     CLI::App app{"Decodes GNSS navigation messages given as hex text into readable listings.",
                  "navmsg"};
-    app.set_version_flag("--version", std::string("navmsg ") + ZELTNAVMSG_VERSION);
+    app.set_version_flag("--version", std::string("navmsg ") + ZeltNavMsg::LibraryVersion());
     app.require_subcommand(1);
     app.footer(std::string(kExitStatusHelp));
     const DecodeCommand decode(app);
