@@ -61,7 +61,8 @@ BatchCommand::BatchCommand(CLI::App& app)
                     "or a MessageFormat\nname (GpsCNav2, ...).\n\n"
                     "Examples:\n"
                     "  navmsg batch examples/messages.txt\n"
-                    "  grep '^C' messages.txt | navmsg batch --strict - > listings.txt\n"
+                    "  navmsg batch --output json messages.txt | jq -c '.fields[] | "
+                    "select(.name == \"toe\")'\n"
                     "\n") +
         std::string(kExitStatusHelp));
 }
@@ -77,13 +78,20 @@ int BatchCommand::run(Output& out) const {
                          ": looks like a binary file; for receiver logs use 'navmsg log'"};
     }
     out.keepCrlf(options_.crlf);
-    Diagnostics diagnostics(out, true);
-    std::string listing;
+    Diagnostics diagnostics(out, options_.form == OutputForm::Text);
+    writeStart(out, options_);
+    Decoded decoded;
+    std::string header;
     for (LineReader::Line line; reader.next(line);) {
         const Place place = Place::line(line.number);
+        // A line that fails still has its place in JSON output: an error record.
+        const auto fail = [&](std::string_view type, std::string_view text) {
+            failMessage(place, type, text, diagnostics, decoded);
+            writeMessage(out, options_, {}, line.number, false, decoded, {});
+        };
         if (line.tooLong) {
-            diagnostics.failure(
-                place, "line longer than " + std::to_string(LineReader::kMaxLine) + " bytes");
+            fail("InputError",
+                 "line longer than " + std::to_string(LineReader::kMaxLine) + " bytes");
             continue;
         }
         const Words w = splitWords(line.text);
@@ -91,36 +99,40 @@ int BatchCommand::run(Output& out) const {
             continue;
         }
         if (w.count != Words::kMaxWords) {
-            diagnostics.failure(place, "expected SAT FORMAT SUBFRAME PAGE HEX");
+            fail("InputError", "expected SAT FORMAT SUBFRAME PAGE HEX");
             continue;
         }
         const std::optional<std::int32_t> subframe = parseInt32(w.word[2]);
         const std::optional<std::int32_t> page = parseInt32(w.word[3]);
         if (!subframe || !page) {
-            diagnostics.failure(place, "SUBFRAME and PAGE must be 32-bit integers");
+            fail("InputError", "SUBFRAME and PAGE must be 32-bit integers");
             continue;
         }
         ZeltNavMsg::MessageFormat format{};
         try {
             format = resolveFormat(w.word[0], w.word[1]);
         } catch (const std::exception& e) {
-            diagnostics.failure(place, e.what());
+            fail("DecodingError", e.what());
             continue;
         }
-        if (!decodeMessage({w.word[0], w.word[1], format, *subframe, *page, w.word[4]}, place,
-                           options_, diagnostics, listing)) {
+        const Message message{w.word[0], w.word[1], format, *subframe, *page, w.word[4]};
+        const bool ok = decodeMessage(message, place, options_, diagnostics, decoded);
+        if (options_.form == OutputForm::Text) {
+            if (!ok) {
+                continue;
+            }
+            header.assign("# line ").append(std::to_string(line.number));
+            for (const std::string_view piece :
+                 {std::string_view(": "), w.word[0], std::string_view(" "), w.word[1],
+                  std::string_view(" subframe "), w.word[2], std::string_view(" page "),
+                  w.word[3]}) {
+                header.append(piece);
+            }
+            writeMessage(out, options_, message, line.number, true, decoded, header);
+            out.lineEnd();
             continue;
         }
-        out.put("# line ");
-        out.putNumber(line.number);
-        for (const std::string_view piece :
-             {std::string_view(": "), w.word[0], std::string_view(" "), w.word[1],
-              std::string_view(" subframe "), w.word[2], std::string_view(" page "), w.word[3]}) {
-            out.put(piece);
-        }
-        out.lineEnd();
-        out.writeListing(listing);
-        out.lineEnd();
+        writeMessage(out, options_, message, line.number, ok, decoded, {});
     }
     return diagnostics.failed() ? kExitFailedMessage : kExitOk;
 }

@@ -25,7 +25,7 @@ DecodeCommand::DecodeCommand(CLI::App& app)
         std::string("Examples:\n"
                     "  navmsg decode --sat G04 --subframe 1 "
                     "8b0d3487fffd614d351000091b1de78f322ebaf701369182b0dd6d7f8f6800ffd153eafc2f0\n"
-                    "  cut -f5 subframes.txt | navmsg decode --sat C11 --format D1 --subframe 1 -\n"
+                    "  cut -f5 subframes.txt | navmsg decode --sat C11 --format D1 --output csv -\n"
                     "\n") +
         std::string(kExitStatusHelp));
 }
@@ -43,19 +43,23 @@ int DecodeCommand::run(Output& out) const {
         throw UsageError{e.what()};
     }
     out.keepCrlf(options_.crlf);
-    Diagnostics diagnostics(out, true);
+    Diagnostics diagnostics(out, options_.form == OutputForm::Text);
+    writeStart(out, options_);
     bool first = true;
-    std::string listing;
+    Decoded decoded;
     const auto decodeOne = [&](std::string_view hex, Place place) {
-        if (!decodeMessage({sat_, formatName, format, subframe_, page_, hex}, place, options_,
-                           diagnostics, listing)) {
-            return;
+        const Message message{sat_, formatName, format, subframe_, page_, hex};
+        const bool ok = decodeMessage(message, place, options_, diagnostics, decoded);
+        if (options_.form == OutputForm::Text) {
+            if (!ok) {
+                return;
+            }
+            if (!first) {
+                out.lineEnd();
+            }
+            first = false;
         }
-        if (!first) {
-            out.lineEnd();
-        }
-        first = false;
-        out.writeListing(listing);
+        writeMessage(out, options_, message, 0, ok, decoded, {});
     };
     for (std::size_t i = 0; i < hex_.size(); ++i) {
         if (hex_[i] != "-") {
@@ -65,9 +69,11 @@ int DecodeCommand::run(Output& out) const {
         LineReader reader("-");
         for (LineReader::Line line; reader.next(line);) {
             if (line.tooLong) {
-                diagnostics.failure(
-                    Place::line(line.number),
-                    "line longer than " + std::to_string(LineReader::kMaxLine) + " bytes");
+                failMessage(Place::line(line.number), "InputError",
+                            "line longer than " + std::to_string(LineReader::kMaxLine) + " bytes",
+                            diagnostics, decoded);
+                writeMessage(out, options_, {sat_, formatName, format, 0, 0, {}}, 0, false, decoded,
+                             {});
             } else if (line.text.find_first_not_of(" \t\r\v\f") != std::string_view::npos) {
                 decodeOne(line.text, Place::line(line.number));
             }

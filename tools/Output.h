@@ -36,6 +36,15 @@ class Output {
         }
     }
     void putNumber(long number);
+    // Lets `write` append to the buffer directly (`write(std::string&)`), then writes
+    // out a full block.
+    template <class Write>
+    void append(Write&& write) {
+        write(buffer_);
+        if (buffer_.size() >= kBlock) {
+            writeOut();
+        }
+    }
     void lineEnd() { put(keepCrlf_ ? "\r\n" : "\n"); }
 
     // Text with "\r\n" line ends (the library's), in the chosen line ends.
