@@ -52,15 +52,22 @@ struct CodewordPlace {
     std::int32_t lastInputBit = 0;
 };
 
+// Where each codeword bit is received and where it is decoded, found by passing one set
+// bit at a time through the coder's de-interleaving and the decoded layout above; and the
+// codewords' results before any input is seen. Built in place once: the results point at
+// the segments.
 struct Places {
+    Places();
+    Places(const Places&) = delete;
+    Places& operator=(const Places&) = delete;
+
     std::array<CodewordPlace, kBeidouCodewords> codewords{};
     std::array<std::int16_t, kBeidouSubframeBits> inputPosition{};  // by decoded bit
+    std::array<CheckResult, kBeidouCodewords> results{};
 };
 
-// Where each codeword bit is received and where it is decoded, found by passing one set
-// bit at a time through the coder's de-interleaving and the decoded layout above.
-Places findPlaces() {
-    Places places;
+Places::Places() {
+    Places& places = *this;
     const auto place = [&places](std::int32_t codeword, std::int32_t bit, std::int32_t input,
                                  std::int32_t decoded) {
         CodewordPlace& c = places.codewords[static_cast<std::size_t>(codeword)];
@@ -101,11 +108,17 @@ Places findPlaces() {
             c.lastInputBit = input > c.lastInputBit ? input : c.lastInputBit;
         }
     }
-    return places;
+    for (std::size_t i = 0; i < results.size(); ++i) {
+        results[i].name = kNames[i];
+        results[i].bits = {codewords[i].segments.data(),
+                           static_cast<std::size_t>(codewords[i].segmentCount)};
+        results[i].status = CheckStatus::Incomplete;
+        results[i].checkBits = kParityBits;
+    }
 }
 
 const Places& places() {
-    static const Places table = findPlaces();
+    static const Places table;
     return table;
 }
 
@@ -161,26 +174,23 @@ BchOutcome correctBch(std::uint16_t received) noexcept {
 void checkBeidouSubframe(const std::uint8_t* bytes, std::int32_t inputBits,
                          std::vector<CheckResult>& out) {
     const Places& p = places();
-    out.reserve(out.size() + kBeidouCodewords);
+    CheckResult* result = appendResults(out, p.results);
     for (std::int32_t word = 0; word < kWords; ++word) {
         const Coder::CodewordPair pair = receivedCodewords(bytes, inputBits, word);
-        for (std::int32_t part = 0; part < (word == 0 ? 1 : 2); ++part) {
-            const std::int32_t index = word == 0 ? 0 : 2 * word - 1 + part;
-            const CodewordPlace& place = p.codewords[static_cast<std::size_t>(index)];
-            CheckResult& result = out.emplace_back();
-            result.name = kNames[index];
-            result.bits = {place.segments.data(), static_cast<std::size_t>(place.segmentCount)};
-            result.checkBits = kParityBits;
+        for (std::int32_t part = 0; part < (word == 0 ? 1 : 2); ++part, ++result) {
+            const CodewordPlace& place =
+                p.codewords[static_cast<std::size_t>(word == 0 ? 0 : 2 * word - 1 + part)];
             if (place.lastInputBit >= inputBits) {
-                result.status = CheckStatus::Incomplete;
                 continue;
             }
             const BchOutcome outcome = correctBch(part == 0 ? pair.first : pair.second);
-            result.computed = outcome.computed;
-            result.received = outcome.received;
+            result->computed = outcome.computed;
+            result->received = outcome.received;
             if (outcome.errorBit >= 0) {
-                result.status = CheckStatus::Corrected;
-                result.correctedBit = place.inputBit[static_cast<std::size_t>(outcome.errorBit)];
+                result->status = CheckStatus::Corrected;
+                result->correctedBit = place.inputBit[static_cast<std::size_t>(outcome.errorBit)];
+            } else {
+                result->status = CheckStatus::Pass;
             }
         }
     }

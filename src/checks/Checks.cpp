@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "checks/BeidouCodewords.h"
 #include "checks/Crc.h"
@@ -41,24 +42,53 @@ constexpr auto kLNavWordBitsOf = [] {
     return words;
 }();
 
-void checkLNav(const std::uint8_t* bytes, std::int32_t inputBits, std::vector<CheckResult>& out) {
+constexpr auto kLNavResults = [] {
+    std::array<CheckResult, kLNavWords> results{};
+    for (std::size_t w = 0; w < results.size(); ++w) {
+        results[w].name = kLNavNames[w];
+        results[w].bits = {&kLNavWordBitsOf[w], 1};
+        results[w].status = CheckStatus::Incomplete;
+        results[w].checkBits = kLNavParityBits;
+    }
+    return results;
+}();
+
+// The parity check of one received word given the previous received word.
+inline void checkLNavWord(std::uint32_t received, std::uint32_t previous, CheckResult& result) {
     using Coder = Legacy::SubframeCoderGpsLNav;
-    out.reserve(out.size() + kLNavWords);
+    result.computed = Coder::Parity(Coder::SourceWord(received, previous), previous);
+    result.received = received & kLNavParityMask;
+    result.status = result.computed == result.received ? CheckStatus::Pass : CheckStatus::Fail;
+}
+
+// Word W of a subframe whose 38 bytes are all there: one load of eight bytes, from the
+// word's first byte or, for the last word, the last eight.
+template <std::size_t W>
+std::uint32_t subframeWord(const std::uint8_t* bytes) noexcept {
+    constexpr std::size_t kFirst = kLNavWordBits * W;
+    constexpr std::size_t kStart = std::min<std::size_t>(kFirst / 8, 30);
+    return static_cast<std::uint32_t>((loadBigEndian64(bytes + kStart) << (kFirst - 8 * kStart)) >>
+                                      (64 - kLNavWordBits));
+}
+
+// All ten words, unrolled: the common case of a whole subframe.
+template <std::size_t... W>
+void checkWholeLNav(const std::uint8_t* bytes, CheckResult* results, std::index_sequence<W...>) {
+    const std::uint32_t words[] = {0U, subframeWord<W>(bytes)...};  // 0: ahead of word 1
+    (checkLNavWord(words[W + 1], words[W], results[W]), ...);
+}
+
+void checkLNav(const std::uint8_t* bytes, std::int32_t inputBits, std::vector<CheckResult>& out) {
+    CheckResult* const results = appendResults(out, kLNavResults);
+    if (inputBits >= kLNavWords * kLNavWordBits) {
+        checkWholeLNav(bytes, results, std::make_index_sequence<kLNavWords>());
+        return;
+    }
     std::uint32_t previous = 0;  // D29* and D30* are 0 ahead of word 1
-    for (std::int32_t w = 0; w < kLNavWords; ++w) {
-        CheckResult& result = out.emplace_back();
-        result.name = kLNavNames[w];
-        result.bits = {&kLNavWordBitsOf[static_cast<std::size_t>(w)], 1};
-        result.checkBits = kLNavParityBits;
-        if (kLNavWordBits * (w + 1) > inputBits) {
-            result.status = CheckStatus::Incomplete;
-            continue;
-        }
+    for (std::int32_t w = 0; w < std::max(inputBits, 0) / kLNavWordBits; ++w) {
         const std::uint32_t received =
             readInputBits(bytes, inputBits, kLNavWordBits * w, kLNavWordBits);
-        result.computed = Coder::Parity(Coder::SourceWord(received, previous), previous);
-        result.received = received & kLNavParityMask;
-        result.status = result.computed == result.received ? CheckStatus::Pass : CheckStatus::Fail;
+        checkLNavWord(received, previous, results[w]);
         previous = received;
     }
 }
@@ -72,9 +102,16 @@ struct CrcBlock {
     BitSegment bits;  // the covered bits and the CRC after them
 };
 
+// A frame format's CRC blocks in message order, and their results before any input is
+// seen. Built in place once: the results point at the blocks' names and bits.
 struct FrameCrcs {
+    explicit FrameCrcs(const BitStructDef& root);
+    FrameCrcs(const FrameCrcs&) = delete;
+    FrameCrcs& operator=(const FrameCrcs&) = delete;
+
     std::int32_t frameBits = 0;
     std::vector<CrcBlock> blocks;
+    std::vector<CheckResult> results;
 };
 
 // "Subframe 2" -> "subframe 2 CRC-24Q"; the whole message ("B-CNAV2 Frame", "IRNSS
@@ -108,32 +145,36 @@ void collectCrcs(const BitStructDef& owner, std::vector<CrcBlock>& blocks) {
     }
 }
 
-FrameCrcs findCrcs(const BitStructDef& root) {
-    FrameCrcs crcs;
-    crcs.frameBits = root.totalBitsCount();
-    collectCrcs(root, crcs.blocks);
-    std::stable_sort(
-        crcs.blocks.begin(), crcs.blocks.end(),
-        [](const CrcBlock& a, const CrcBlock& b) { return a.bits.first < b.bits.first; });
-    return crcs;
+FrameCrcs::FrameCrcs(const BitStructDef& root) : frameBits(root.totalBitsCount()) {
+    collectCrcs(root, blocks);
+    std::stable_sort(blocks.begin(), blocks.end(), [](const CrcBlock& a, const CrcBlock& b) {
+        return a.bits.first < b.bits.first;
+    });
+    for (const CrcBlock& block : blocks) {
+        CheckResult& result = results.emplace_back();
+        result.name = block.name;
+        result.bits = {&block.bits, 1};
+        result.status = CheckStatus::Incomplete;
+        result.checkBits = kCrcBits;
+    }
 }
 
 const FrameCrcs* frameCrcs(MessageFormat format) {
     switch (format) {
         case MessageFormat::GpsCNav2: {
-            static const FrameCrcs crcs = findCrcs(GpsCNav2::gpsCNav2FrameDef());
+            static const FrameCrcs crcs(GpsCNav2::gpsCNav2FrameDef());
             return &crcs;
         }
         case MessageFormat::BeidouCNav1: {
-            static const FrameCrcs crcs = findCrcs(BeidouCNav1::beidouCNav1FrameDef());
+            static const FrameCrcs crcs(BeidouCNav1::beidouCNav1FrameDef());
             return &crcs;
         }
         case MessageFormat::BeidouCNav2: {
-            static const FrameCrcs crcs = findCrcs(BeidouCNav2::beidouCNav2FrameDef());
+            static const FrameCrcs crcs(BeidouCNav2::beidouCNav2FrameDef());
             return &crcs;
         }
         case MessageFormat::Irnss: {
-            static const FrameCrcs crcs = findCrcs(Irnss::irnssSubframeDef());
+            static const FrameCrcs crcs(Irnss::irnssSubframeDef());
             return &crcs;
         }
         default:
@@ -144,21 +185,18 @@ const FrameCrcs* frameCrcs(MessageFormat format) {
 void checkCrcs(const FrameCrcs& crcs, const std::uint8_t* bytes, std::int32_t inputBits,
                std::vector<CheckResult>& out) {
     const std::int32_t given = std::min(inputBits, crcs.frameBits);
-    out.reserve(out.size() + crcs.blocks.size());
+    CheckResult* result = appendResults(out, crcs.results);
     for (const CrcBlock& block : crcs.blocks) {
-        CheckResult& result = out.emplace_back();
-        result.name = block.name;
-        result.bits = {&block.bits, 1};
-        result.checkBits = kCrcBits;
         const std::int32_t end = block.bits.first + block.bits.count;
-        if (end > given) {
-            result.status = CheckStatus::Incomplete;
-            continue;
+        if (end <= given) {
+            result->computed =
+                Crc24Q::ofBits(bytes, static_cast<std::size_t>(block.bits.first),
+                               static_cast<std::size_t>(block.bits.count - kCrcBits));
+            result->received = readInputBits(bytes, inputBits, end - kCrcBits, kCrcBits);
+            result->status =
+                result->computed == result->received ? CheckStatus::Pass : CheckStatus::Fail;
         }
-        result.computed = Crc24Q::ofBits(bytes, static_cast<std::size_t>(block.bits.first),
-                                         static_cast<std::size_t>(block.bits.count - kCrcBits));
-        result.received = readInputBits(bytes, inputBits, end - kCrcBits, kCrcBits);
-        result.status = result.computed == result.received ? CheckStatus::Pass : CheckStatus::Fail;
+        ++result;
     }
 }
 

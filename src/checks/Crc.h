@@ -13,6 +13,14 @@
 
 namespace ZeltNavMsg::Checks {
 
+// Bytes p[0] ... p[7], p[0] most significant; written out so that compilers make it one
+// load.
+constexpr std::uint64_t loadBigEndian64(const std::uint8_t* p) noexcept {
+    return (std::uint64_t{p[0]} << 56) | (std::uint64_t{p[1]} << 48) | (std::uint64_t{p[2]} << 40) |
+           (std::uint64_t{p[3]} << 32) | (std::uint64_t{p[4]} << 24) | (std::uint64_t{p[5]} << 16) |
+           (std::uint64_t{p[6]} << 8) | std::uint64_t{p[7]};
+}
+
 template <unsigned Width, std::uint32_t Poly>
 class Crc {
     static_assert(Width >= 8 && Width <= 32);
@@ -91,10 +99,7 @@ class Crc {
     // The 64 bits that start `shift` bits into p[0]: eight bytes, and a ninth when the
     // bits are not byte-aligned.
     static constexpr std::uint64_t read64(const std::uint8_t* p, unsigned shift) noexcept {
-        std::uint64_t bits = 0;
-        for (int i = 0; i < 8; ++i) {
-            bits = (bits << 8) | p[i];
-        }
+        std::uint64_t bits = loadBigEndian64(p);
         if (shift != 0) {
             bits = (bits << shift) | (p[8] >> (8 - shift));
         }

@@ -109,7 +109,16 @@ std::uint16_t SubframeCoderBeidouNav::BchDecode(std::uint16_t codeword) noexcept
 }
 
 std::uint16_t SubframeCoderBeidouNav::BchEncode(std::uint16_t info) noexcept {
-    return static_cast<std::uint16_t>(codeword(info));
+    // The parity of every information word, from the register above.
+    static constexpr auto kParity = [] {
+        std::array<std::uint8_t, kInfoMask + 1> table{};
+        for (std::uint32_t i = 0; i <= kInfoMask; ++i) {
+            table[i] = static_cast<std::uint8_t>(codeword(i) & 15U);
+        }
+        return table;
+    }();
+    const std::uint32_t bits = info & kInfoMask;
+    return static_cast<std::uint16_t>((bits << 4) | kParity[bits]);
 }
 
 SubframeCoderBeidouNav::CodewordPair SubframeCoderBeidouNav::DeinterleaveWord(
