@@ -65,8 +65,9 @@ inline void checkLNavWord(std::uint32_t received, std::uint32_t previous, CheckR
 // word's first byte or, for the last word, the last eight.
 template <std::size_t W>
 std::uint32_t subframeWord(const std::uint8_t* bytes) noexcept {
+    constexpr std::size_t kBytes = (kLNavWords * kLNavWordBits + 7) / 8;
     constexpr std::size_t kFirst = kLNavWordBits * W;
-    constexpr std::size_t kStart = std::min<std::size_t>(kFirst / 8, 30);
+    constexpr std::size_t kStart = std::min<std::size_t>(kFirst / 8, kBytes - 8);
     return static_cast<std::uint32_t>((loadBigEndian64(bytes + kStart) << (kFirst - 8 * kStart)) >>
                                       (64 - kLNavWordBits));
 }

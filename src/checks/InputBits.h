@@ -27,20 +27,15 @@ inline std::uint32_t readInputBits(const std::uint8_t* bytes, std::int32_t input
         window = loadBigEndian64(bytes + start);
         return static_cast<std::uint32_t>((window << (first - 8 * start)) >> (64 - count));
     }
-    if (end <= inputBits) {
-        for (std::int32_t byte = first / 8; byte <= lastByte; ++byte) {
-            window = (window << 8) | bytes[byte];
-        }
-        window >>= 8 * (lastByte + 1) - end;
-        return static_cast<std::uint32_t>(window & ((std::uint64_t{1} << count) - 1));
-    }
+    // Byte by byte, bits from inputBits on cleared.
     for (std::int32_t byte = first / 8; byte <= lastByte; ++byte) {
         window = (window << 8) | (8 * byte < inputBits ? bytes[byte] : 0U);
     }
     window >>= 8 * (lastByte + 1) - end;
     window &= (std::uint64_t{1} << count) - 1;
-    // Clear the bits from inputBits on.
-    window &= inputBits > first ? ~((std::uint64_t{1} << (end - inputBits)) - 1) : 0;
+    if (end > inputBits) {
+        window &= inputBits > first ? ~((std::uint64_t{1} << (end - inputBits)) - 1) : 0;
+    }
     return static_cast<std::uint32_t>(window);
 }
 
