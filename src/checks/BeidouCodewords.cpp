@@ -148,10 +148,10 @@ void orBits(std::uint8_t* out, std::int32_t first, std::int32_t count, std::uint
 
 BchOutcome correctBch(std::uint16_t received) noexcept {
     // The syndrome of each single-bit error, computed with the coder's parity rule.
-    static const std::array<std::int8_t, 16> kErrorBit = [] {
-        std::array<std::int8_t, 16> table{};
+    static const std::array<std::int32_t, 16> kErrorBit = [] {
+        std::array<std::int32_t, 16> table{};
         table.fill(-1);
-        for (std::int8_t bit = 0; bit < kCodewordBits; ++bit) {
+        for (std::int32_t bit = 0; bit < kCodewordBits; ++bit) {
             const auto error = static_cast<std::uint16_t>(1U << bit);
             const std::uint32_t syndrome =
                 (Coder::BchEncode(static_cast<std::uint16_t>(error >> kParityBits)) ^ error) &

@@ -44,11 +44,12 @@ constexpr auto kLNavWordBitsOf = [] {
 
 constexpr auto kLNavResults = [] {
     std::array<CheckResult, kLNavWords> results{};
-    for (std::size_t w = 0; w < results.size(); ++w) {
-        results[w].name = kLNavNames[w];
-        results[w].bits = {&kLNavWordBitsOf[w], 1};
-        results[w].status = CheckStatus::Incomplete;
-        results[w].checkBits = kLNavParityBits;
+    for (std::int32_t w = 0; w < kLNavWords; ++w) {
+        CheckResult& result = results[static_cast<std::size_t>(w)];
+        result.name = kLNavNames[w];
+        result.bits = {&kLNavWordBitsOf[static_cast<std::size_t>(w)], 1};
+        result.status = CheckStatus::Incomplete;
+        result.checkBits = kLNavParityBits;
     }
     return results;
 }();

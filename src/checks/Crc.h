@@ -71,7 +71,7 @@ class Crc {
             crc = feedBit(crc, (data[bit / 8] >> (7 - bit % 8)) & 1U);
         }
         const std::size_t end = first + count;
-        const unsigned shift = static_cast<unsigned>(bit % 8);
+        const auto shift = static_cast<unsigned>(bit % 8);
         // The register top-aligned in 32 bits, as the slice tables hold it.
         std::uint32_t reg = crc << (32 - Width);
         for (; end - bit >= 64; bit += 64) {

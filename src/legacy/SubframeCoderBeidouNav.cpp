@@ -1,6 +1,7 @@
 #include "legacy/SubframeCoderBeidouNav.h"
 
 #include <array>
+#include <cstddef>
 #include <cstring>
 
 namespace ZeltNavMsg::Legacy {
@@ -111,9 +112,9 @@ std::uint16_t SubframeCoderBeidouNav::BchDecode(std::uint16_t codeword) noexcept
 std::uint16_t SubframeCoderBeidouNav::BchEncode(std::uint16_t info) noexcept {
     // The parity of every information word, from the register above.
     static constexpr auto kParity = [] {
-        std::array<std::uint8_t, kInfoMask + 1> table{};
-        for (std::uint32_t i = 0; i <= kInfoMask; ++i) {
-            table[i] = static_cast<std::uint8_t>(codeword(i) & 15U);
+        std::array<std::uint8_t, 2048> table{};
+        for (std::size_t i = 0; i < table.size(); ++i) {
+            table[i] = static_cast<std::uint8_t>(codeword(static_cast<std::uint32_t>(i)) & 15U);
         }
         return table;
     }();
