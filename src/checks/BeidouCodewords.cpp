@@ -67,16 +67,15 @@ struct Places {
 };
 
 Places::Places() {
-    Places& places = *this;
-    const auto place = [&places](std::int32_t codeword, std::int32_t bit, std::int32_t input,
-                                 std::int32_t decoded) {
-        CodewordPlace& c = places.codewords[static_cast<std::size_t>(codeword)];
+    const auto place = [this](std::int32_t codeword, std::int32_t bit, std::int32_t input,
+                              std::int32_t decoded) {
+        CodewordPlace& c = codewords[static_cast<std::size_t>(codeword)];
         c.inputBit[static_cast<std::size_t>(bit)] = static_cast<std::int16_t>(input);
-        places.inputPosition[static_cast<std::size_t>(decoded)] = static_cast<std::int16_t>(input);
+        inputPosition[static_cast<std::size_t>(decoded)] = static_cast<std::int16_t>(input);
     };
     for (std::int32_t offset = 0; offset < kWordBits - kCodewordBits; ++offset) {
         const std::uint32_t oneHot = 1U << (kWordBits - 1 - offset);
-        places.inputPosition[static_cast<std::size_t>(offsetOf(
+        inputPosition[static_cast<std::size_t>(offsetOf(
             decodedFirstWord(oneHot >> kCodewordBits, 0)))] = static_cast<std::int16_t>(offset);
     }
     for (std::int32_t bit = 0; bit < kCodewordBits; ++bit) {
@@ -94,7 +93,7 @@ Places::Places() {
                   base + offsetOf(first ? decodedWord(oneHot, 0) : decodedWord(0, oneHot)));
         }
     }
-    for (CodewordPlace& c : places.codewords) {
+    for (CodewordPlace& c : codewords) {
         for (std::int32_t bit = kCodewordBits - 1; bit >= 0; --bit) {
             const std::int32_t input = c.inputBit[static_cast<std::size_t>(bit)];
             BitSegment* last = c.segmentCount == 0
