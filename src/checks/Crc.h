@@ -13,6 +13,14 @@
 
 namespace ZeltNavMsg::Checks {
 
+// Bytes p[0] ... p[7], p[0] most significant; written out so that compilers make it one
+// load.
+constexpr std::uint64_t loadBigEndian64(const std::uint8_t* p) noexcept {
+    return (std::uint64_t{p[0]} << 56) | (std::uint64_t{p[1]} << 48) | (std::uint64_t{p[2]} << 40) |
+           (std::uint64_t{p[3]} << 32) | (std::uint64_t{p[4]} << 24) | (std::uint64_t{p[5]} << 16) |
+           (std::uint64_t{p[6]} << 8) | std::uint64_t{p[7]};
+}
+
 template <unsigned Width, std::uint32_t Poly>
 class Crc {
     static_assert(Width >= 8 && Width <= 32);
@@ -52,9 +60,9 @@ class Crc {
     }
 
     // CRC of `count` bits from bit `first` of `data` (bit 0 = most significant bit of
-    // data[0]). With a zero start the register is the same as for the bits prefixed
-    // with zeros to whole bytes, so the odd leading bits go in one at a time and the
-    // rest a byte at a time, whatever the alignment.
+    // data[0]); reads no byte outside those bits. With a zero start the register is the
+    // same as for the bits prefixed with zeros to whole bytes, so the odd leading bits go
+    // in one at a time and the rest eight bytes at a time, whatever the alignment.
     static constexpr std::uint32_t ofBits(const std::uint8_t* data, std::size_t first,
                                           std::size_t count) noexcept {
         std::uint32_t crc = 0;
@@ -63,19 +71,41 @@ class Crc {
             crc = feedBit(crc, (data[bit / 8] >> (7 - bit % 8)) & 1U);
         }
         const std::size_t end = first + count;
-        const unsigned shift = static_cast<unsigned>(bit % 8);
+        const auto shift = static_cast<unsigned>(bit % 8);
+        // The register top-aligned in 32 bits, as the slice tables hold it.
+        std::uint32_t reg = crc << (32 - Width);
+        for (; end - bit >= 64; bit += 64) {
+            const std::uint64_t chunk = read64(data + bit / 8, shift);
+            const auto high = static_cast<std::uint32_t>(chunk >> 32) ^ reg;
+            const auto low = static_cast<std::uint32_t>(chunk);
+            reg = kSlices[7][high >> 24] ^ kSlices[6][(high >> 16) & 0xFFU] ^
+                  kSlices[5][(high >> 8) & 0xFFU] ^ kSlices[4][high & 0xFFU] ^
+                  kSlices[3][low >> 24] ^ kSlices[2][(low >> 16) & 0xFFU] ^
+                  kSlices[1][(low >> 8) & 0xFFU] ^ kSlices[0][low & 0xFFU];
+        }
         for (; bit < end; bit += 8) {
             const std::size_t byte = bit / 8;
             std::uint32_t window = static_cast<std::uint32_t>(data[byte]) << 8;
             if (shift != 0) {
                 window |= data[byte + 1];
             }
-            crc = feedByte(crc, static_cast<std::uint8_t>(window >> (8 - shift)));
+            const auto next = static_cast<std::uint8_t>(window >> (8 - shift));
+            reg = (reg << 8) ^ kSlices[0][(reg >> 24) ^ next];
         }
-        return crc;
+        return reg >> (32 - Width);
     }
 
   private:
+    // The 64 bits that start `shift` bits into p[0]: eight bytes, and a ninth when the
+    // bits are not byte-aligned.
+    static constexpr std::uint64_t read64(const std::uint8_t* p, unsigned shift) noexcept {
+        std::uint64_t bits = loadBigEndian64(p);
+        if (shift != 0) {
+            bits = (bits << shift) | (p[8] >> (8 - shift));
+        }
+        return bits;
+    }
+
     static constexpr std::array<std::uint32_t, 256> kTable = [] {
         std::array<std::uint32_t, 256> table{};
         for (std::uint32_t byte = 0; byte < 256; ++byte) {
@@ -86,6 +116,23 @@ class Crc {
             table[byte] = crc;
         }
         return table;
+    }();
+
+    // Slicing by eight: kSlices[k][b] is the top-aligned 32-bit register after byte b
+    // and then k zero bytes, from a zero register. Eight lookups take eight bytes.
+    static constexpr std::array<std::array<std::uint32_t, 256>, 8> kSlices = [] {
+        constexpr unsigned kAlign = 32 - Width;
+        std::array<std::array<std::uint32_t, 256>, 8> slices{};
+        for (std::uint32_t byte = 0; byte < 256; ++byte) {
+            slices[0][byte] = kTable[byte] << kAlign;
+        }
+        for (std::size_t k = 1; k < 8; ++k) {
+            for (std::uint32_t byte = 0; byte < 256; ++byte) {
+                const std::uint32_t reg = slices[k - 1][byte];
+                slices[k][byte] = (reg << 8) ^ slices[0][reg >> 24];
+            }
+        }
+        return slices;
     }();
 };
 

@@ -1,6 +1,7 @@
 #include "legacy/SubframeCoderBeidouNav.h"
 
 #include <array>
+#include <cstddef>
 #include <cstring>
 
 namespace ZeltNavMsg::Legacy {
@@ -108,6 +109,25 @@ std::uint16_t SubframeCoderBeidouNav::BchDecode(std::uint16_t codeword) noexcept
     return static_cast<std::uint16_t>((c >> 4) & kInfoMask);
 }
 
+std::uint16_t SubframeCoderBeidouNav::BchEncode(std::uint16_t info) noexcept {
+    // The parity of every information word, from the register above.
+    static constexpr auto kParity = [] {
+        std::array<std::uint8_t, 2048> table{};
+        for (std::size_t i = 0; i < table.size(); ++i) {
+            table[i] = static_cast<std::uint8_t>(codeword(static_cast<std::uint32_t>(i)) & 15U);
+        }
+        return table;
+    }();
+    const std::uint32_t bits = info & kInfoMask;
+    return static_cast<std::uint16_t>((bits << 4) | kParity[bits]);
+}
+
+SubframeCoderBeidouNav::CodewordPair SubframeCoderBeidouNav::DeinterleaveWord(
+    std::uint32_t word) noexcept {
+    return {static_cast<std::uint16_t>(evenBits(word >> 1)),
+            static_cast<std::uint16_t>(evenBits(word))};
+}
+
 bool SubframeCoderBeidouNav::Encode(subframe_t& sf) const {
     // Built in a cleared copy, so bits past word 10 and words that do not fit the
     // record come out zero; it starts with the uncoded bits of word 1.
@@ -136,10 +156,9 @@ bool SubframeCoderBeidouNav::Decode(subframe_t& sf) const {
     bool failed = WriteWord(sf, wordStart(0), (((first >> kUncodedBits) << 11) | info) << 4);
     for (int w = 1; w < kWords; ++w) {
         const std::uint32_t word = readWord(sf.data, wordStart(w) - 1);
-        const auto a = static_cast<std::uint16_t>(evenBits(word >> 1));
-        const auto b = static_cast<std::uint16_t>(evenBits(word));
+        const CodewordPair pair = DeinterleaveWord(word);
         const std::uint32_t decoded =
-            (static_cast<std::uint32_t>(BchDecode(a)) << 11) | BchDecode(b);
+            (static_cast<std::uint32_t>(BchDecode(pair.first)) << 11) | BchDecode(pair.second);
         failed = WriteWord(sf, wordStart(w), decoded << 8) || failed;
     }
     return failed;

@@ -32,6 +32,18 @@ class SubframeCoderBeidouNav final : public SubframeCoder {
     // land inside the codeword. Kept as it is: the listing of a damaged codeword
     // depends on it.
     [[nodiscard]] static std::uint16_t BchDecode(std::uint16_t codeword) noexcept;
+
+    // The BCH(15,11) codeword of 11 information bits: the information in bits 14-4,
+    // the parity (the remainder of info * x^4 divided by x^4 + x + 1) in bits 3-0.
+    [[nodiscard]] static std::uint16_t BchEncode(std::uint16_t info) noexcept;
+
+    // The two codewords of a received 30-bit word of words 2-10 (first bit = bit 29):
+    // the first from the bits at even offsets from the start, the second from the odd.
+    struct CodewordPair {
+        std::uint16_t first;
+        std::uint16_t second;
+    };
+    [[nodiscard]] static CodewordPair DeinterleaveWord(std::uint32_t word) noexcept;
 };
 
 }  // namespace ZeltNavMsg::Legacy
