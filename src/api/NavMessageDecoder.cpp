@@ -9,6 +9,7 @@
 #include "api/FormatNames.h"
 #include "api/HexInput.h"
 #include "bits/BinArray.h"
+#include "checks/Checks.h"
 #include "fields/ReadableDescription.h"
 #include "legacy/BeidouD1Interface.h"
 #include "legacy/BeidouD2Interface.h"
@@ -209,6 +210,7 @@ void NavMessageDecoder::DecodeFields(MessageFormat format, std::int32_t subframe
                     static_cast<std::uint8_t>(0xFF00U >> (frameBits % 8));
             }
             Records::decodeTree(format, writer);
+            Checks::run(format, writer.bits(), std::min(bitCount, frameBits), writer.checks());
             return;
         }
         case MessageFormat::GpsLNav:
@@ -218,6 +220,7 @@ void NavMessageDecoder::DecodeFields(MessageFormat format, std::int32_t subframe
             const Legacy::subframe_t sf = subframeRecord(subframeNumber, pageNumber, digits);
             writer.start(format, subframeNumber, pageNumber, bitCount);
             Records::decodeSubframe(format, sf, writer);
+            Checks::run(format, sf.data, sf.bitCount, writer.checks());
             return;
         }
         default:

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "bits/BitUtils.h"
+#include "checks/BeidouCodewords.h"
 #include "legacy/BeidouD1Interface.h"
 #include "legacy/BeidouD2Interface.h"
 #include "legacy/GpsL1caInterface.h"
@@ -99,29 +100,12 @@ std::int32_t samePosition(std::int32_t index) {
     return index;
 }
 
-// BeiDou words 2-10 are decoded as the 11 information bits of their first codeword,
-// the 11 of their second, then the 4 parity bits of each; on air the two codewords
-// alternate bit by bit, the first on even offsets. Word 1 is not interleaved.
+// BeiDou words 2-10 interleave two codewords on air; the checks know where each bit
+// of the decoded subframe was received.
 std::int32_t interleavedPosition(std::int32_t index) {
-    const std::int32_t word = index / 30;
-    const std::int32_t offset = index % 30;
-    if (word == 0 || index >= 300) {
-        return index;
-    }
-    std::int32_t codewordBit = 0;  // bit of its codeword, 0 = first
-    std::int32_t second = 0;       // 1 for the second codeword
-    if (offset < 11) {
-        codewordBit = offset;
-    } else if (offset < 22) {
-        codewordBit = offset - 11;
-        second = 1;
-    } else if (offset < 26) {
-        codewordBit = 11 + offset - 22;
-    } else {
-        codewordBit = 11 + offset - 26;
-        second = 1;
-    }
-    return 30 * word + 2 * codewordBit + second;
+    return index < Checks::kBeidouSubframeBits
+               ? Checks::beidouInputPositions()[static_cast<std::size_t>(index)]
+               : index;
 }
 
 // The record plan of one signal's table: a record for every planned line (printed or
@@ -408,14 +392,20 @@ void decodeSubframe(MessageFormat format, const subframe_t& sf, MessageWriter& w
     const LegacyPlan& plan = planOf(format);
     const SubframeIf& signal = plan.signal();
 
-    // As received, then decoded: LNAV data bits with the D30* inversion undone, BeiDou
-    // information bits de-interleaved. Every word is decoded whatever the bit count:
-    // bits not given read as zero, and the records report no word that does not fit.
+    // As received, then decoded: LNAV data bits with the D30* inversion undone (every
+    // word, whatever the bit count: bits not given read as zero, and no word is reported
+    // as not fitting); BeiDou codewords corrected and de-interleaved.
     std::memcpy(writer.received(), sf.data, sizeof sf.data);
-    subframe_t decoded = sf;
-    decoded.bitCount = subframe_t::kDataBytes * 8;
-    signal.GetCoder().Decode(decoded);
-    std::memcpy(writer.bits(), decoded.data, sizeof decoded.data);
+    if (format == MessageFormat::BeidouD1 || format == MessageFormat::BeidouD2) {
+        Checks::correctBeidouSubframe(sf.data, sf.bitCount,
+                                      std::span<std::uint8_t, Checks::kBeidouDecodedBytes>(
+                                          writer.bits(), Checks::kBeidouDecodedBytes));
+    } else {
+        subframe_t decoded = sf;
+        decoded.bitCount = subframe_t::kDataBytes * 8;
+        signal.GetCoder().Decode(decoded);
+        std::memcpy(writer.bits(), decoded.data, sizeof decoded.data);
+    }
 
     std::int32_t layoutId = signal.GetLayoutId(sf);
     std::int32_t svId = -1;
