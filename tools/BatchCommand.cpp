@@ -6,6 +6,7 @@
 #include <charconv>
 #include <optional>
 
+#include "CheckReport.h"
 #include "ExitStatus.h"
 #include "FormatLookup.h"
 #include "LineReader.h"
@@ -80,6 +81,7 @@ int BatchCommand::run(Output& out) const {
     out.keepCrlf(options_.crlf);
     Diagnostics diagnostics(out, options_.form == OutputForm::Text);
     writeStart(out, options_);
+    CheckSummary summary;
     Decoded decoded;
     std::string header;
     for (LineReader::Line line; reader.next(line);) {
@@ -117,6 +119,9 @@ int BatchCommand::run(Output& out) const {
         }
         const Message message{w.word[0], w.word[1], format, *subframe, *page, w.word[4]};
         const bool ok = decodeMessage(message, place, options_, diagnostics, decoded);
+        if (ok && options_.check) {
+            summary.add(decoded.records);
+        }
         if (options_.form == OutputForm::Text) {
             if (!ok) {
                 continue;
@@ -133,6 +138,9 @@ int BatchCommand::run(Output& out) const {
             continue;
         }
         writeMessage(out, options_, message, line.number, ok, decoded, {});
+    }
+    if (options_.check) {
+        summary.report(diagnostics);
     }
     return diagnostics.failed() ? kExitFailedMessage : kExitOk;
 }

@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "CheckReport.h"
 #include "ExitStatus.h"
 #include "FormatLookup.h"
 #include "LineReader.h"
@@ -45,11 +46,15 @@ int DecodeCommand::run(Output& out) const {
     out.keepCrlf(options_.crlf);
     Diagnostics diagnostics(out, options_.form == OutputForm::Text);
     writeStart(out, options_);
+    CheckSummary summary;
     bool first = true;
     Decoded decoded;
     const auto decodeOne = [&](std::string_view hex, Place place) {
         const Message message{sat_, formatName, format, subframe_, page_, hex};
         const bool ok = decodeMessage(message, place, options_, diagnostics, decoded);
+        if (ok && options_.check) {
+            summary.add(decoded.records);
+        }
         if (options_.form == OutputForm::Text) {
             if (!ok) {
                 return;
@@ -78,6 +83,9 @@ int DecodeCommand::run(Output& out) const {
                 decodeOne(line.text, Place::line(line.number));
             }
         }
+    }
+    if (options_.check) {
+        summary.report(diagnostics);
     }
     return diagnostics.failed() ? kExitFailedMessage : kExitOk;
 }

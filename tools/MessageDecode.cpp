@@ -5,6 +5,7 @@
 #include <map>
 #include <stdexcept>
 
+#include "CheckReport.h"
 #include "FormatLookup.h"
 #include "Output.h"
 #include "api/HexInput.h"
@@ -64,12 +65,21 @@ std::string_view typeOf(const std::exception& e) {
     return "runtime_error";
 }
 
-// The listing or the records of a message, as the output form asks.
+// The listing or the records of a message, or both, as the options ask.
 void decodeAs(const Message& m, const MessageOptions& options, Decoded& decoded) {
     if (options.form == OutputForm::Text) {
         decoded.listing = NavMessageDecoder::Decode(m.format, m.subframe, m.page, m.hex);
-    } else {
+    }
+    if (options.records()) {
         NavMessageDecoder::DecodeFields(m.format, m.subframe, m.page, m.hex, decoded.records);
+    }
+}
+
+// With --strict a message that is not intact fails (it is still written).
+void checkStrictly(Place place, const MessageOptions& options, Diagnostics& diagnostics,
+                   Decoded& decoded) {
+    if (options.strict && !decoded.records.ok()) {
+        diagnostics.failure(place, checksLine(decoded.records));
     }
 }
 
@@ -78,7 +88,8 @@ void decodeAs(const Message& m, const MessageOptions& options, Decoded& decoded)
 void addMessageOptions(CLI::App& command, MessageOptions& options) {
     command.add_flag("--crlf", options.crlf, "Keep the library's \\r\\n line ends (text output)");
     command.add_flag("--strict", options.strict,
-                     "A message shorter than its format fails instead of being listed");
+                     "A message shorter than its format fails instead of being listed, and one "
+                     "that fails a parity, BCH or CRC check makes the exit status 1");
     command
         .add_option("--output", options.form,
                     "text (the listing, the default), json (JSON Lines, one record per message) "
@@ -89,6 +100,9 @@ void addMessageOptions(CLI::App& command, MessageOptions& options) {
             CLI::ignore_case));
     command.add_flag("--all-fields", options.allFields,
                      "json and csv: reserved, check and whole-word fields too");
+    command.add_flag("--check", options.check,
+                     "Check parity, BCH and CRC: text output adds a line after each listing; "
+                     "a summary goes to standard error at the end");
 }
 
 void failMessage(Place place, std::string_view type, std::string_view text,
@@ -119,6 +133,10 @@ void writeMessage(Output& out, const MessageOptions& options, const Message& mes
                     out.lineEnd();
                 }
                 out.writeListing(decoded.listing);
+                if (options.check) {
+                    out.put(checksLine(decoded.records));
+                    out.lineEnd();
+                }
             }
             break;
         case OutputForm::Json:
@@ -149,6 +167,7 @@ bool decodeMessage(const Message& message, Place place, const MessageOptions& op
             decodeAs(message, options, decoded);
         }
         if (bitsGiven >= bits) {
+            checkStrictly(place, options, diagnostics, decoded);
             return true;
         }
         // Short: the listing reports each word that does not fit on standard error (the
@@ -167,6 +186,7 @@ bool decodeMessage(const Message& message, Place place, const MessageOptions& op
         }
         diagnostics.report(place, warning);
         diagnostics.reportLines(place, libraryReports);
+        checkStrictly(place, options, diagnostics, decoded);
         return true;
     } catch (const ZeltNavMsg::DecodingError& e) {
         reportDecodingError(message, place, e, diagnostics, decoded);

@@ -28,6 +28,9 @@ struct MessageOptions {
     bool strict = false;  // a message that looks wrong fails instead of being listed
     OutputForm form = OutputForm::Text;
     bool allFields = false;  // records: reserved, check and whole-word fields too
+    bool check = false;      // a verdict line after each listing, and a summary
+    // The records are wanted: for JSON or CSV, or for their checks.
+    [[nodiscard]] bool records() const { return form != OutputForm::Text || check || strict; }
 };
 
 void addMessageOptions(CLI::App& command, MessageOptions& options);

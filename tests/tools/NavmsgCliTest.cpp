@@ -238,6 +238,7 @@ TEST(NavmsgCli, HostileInputAndOutput) {
         std::string outHas;
     };
     const std::string gps = kGpsSubframe1;
+    const std::string damaged = gps.substr(0, gps.size() - 1) + "1";
     const std::string listing =
         withLf(NavMessageDecoder::Decode(MessageFormat::GpsLNav, 1, 0, kGpsSubframe1));
     const Case cases[] = {
@@ -304,6 +305,23 @@ TEST(NavmsgCli, HostileInputAndOutput) {
          "navmsg: line 1: 4 of 288 bits given; the rest read as zero\n"
          "navmsg: line 2: 4 of 878 bits given; the rest read as zero\n"
          "navmsg: line 3: 4 of 292 bits given; the rest read as zero\n"},
+        // Integrity checks: a verdict after each listing and a summary; --strict fails a
+        // message that is not intact (D30 of word 10 flipped here).
+        {"navmsg batch --check -", "G04 LNAV 1 0 " + gps + "\nG04 LNAV 1 0 " + damaged + "\n", 0,
+         "navmsg: checks: 2 messages, 1 intact, 1 failed\n"
+         "navmsg:   GpsLNav: 2 messages, 1 intact, 1 failed\n"
+         "navmsg:   most often not ok: word 10 parity (1)\n",
+         0, "Checks: ok (10 words)\n\n# line 2: G04 LNAV subframe 1 page 0\n"},
+        {"navmsg batch --check - | grep FAILED", "G04 LNAV 1 0 " + damaged + "\n", 0,
+         "navmsg: checks: 1 messages, 0 intact, 1 failed\n"
+         "navmsg:   GpsLNav: 1 messages, 0 intact, 1 failed\n"
+         "navmsg:   most often not ok: word 10 parity (1)\n",
+         0, "Checks: FAILED word 10 parity\n"},
+        {"navmsg batch --strict --output json -", "G04 LNAV 1 0 " + damaged + "\n", 1,
+         "navmsg: line 1: Checks: FAILED word 10 parity\n", 0,
+         // Word 10's parity is the input's last six bits, 0xF0 & 0x3F, and 0x31 damaged.
+         "{\"name\":\"word 10 parity\",\"ok\":false,\"bits\":[[270,30]],\"computed\":\"30\","
+         "\"received\":\"31\"}],\"ok\":false}\n"},
         // Reports in order with the listings when both go to one file.
         {"navmsg batch $D/short 2>&1", "", 0, "", 0,
          "# line 1: G04 LNAV subframe 1 page 0\n" + listing +
