@@ -36,12 +36,10 @@ class BitFieldValueDef : public BitFieldDef {
         return readRawSlow(buffer);
     }
     // Stores the low bits of `raw` in the field's ranges.
-    // Stores the low bits of `raw` in the field's ranges.
     void writeRaw(BitBuffer buffer, std::uint64_t raw) const noexcept;
 
-    // What the listing prints around the value: the name and ": ", and a blank and the
-    // units (empty without units); both copied in chunks.
-    [[nodiscard]] const Text::PaddedText& label() const noexcept { return label_; }
+    // What the listing prints after the value: a blank and the units (empty without
+    // units), copied in chunks.
     [[nodiscard]] const Text::PaddedText& unitsSuffix() const noexcept { return unitsSuffix_; }
     // Hex digits of the raw part: ceil(bits / 4), at most 17.
     [[nodiscard]] int hexDigits() const noexcept { return hexDigits_; }
@@ -70,7 +68,6 @@ class BitFieldValueDef : public BitFieldDef {
     std::int32_t firstByte_ = 0;
     std::int32_t windowShift_ = 0;
     int hexDigits_;
-    Text::PaddedText label_;
     Text::PaddedText unitsSuffix_;
 };
 
