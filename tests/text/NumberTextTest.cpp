@@ -1,6 +1,6 @@
 // The number writers against the C library's printf, which defines their text: "%g" for
 // writeG (rounding, ties to even, fixed or exponent form, trailing zeros), "%0*llX" for
-// writeHex.
+// writeHex, "%llu" and "%lld" for writeUnsigned and writeSigned.
 
 #include <gtest/gtest.h>
 
@@ -10,6 +10,7 @@
 #include <limits>
 #include <random>
 #include <string>
+#include <vector>
 
 #include "legacy/GpsL1caInterface.h"
 #include "legacy/QzssL1caInterface.h"
@@ -19,6 +20,8 @@ namespace {
 
 using ZeltNavMsg::Text::writeG;
 using ZeltNavMsg::Text::writeHex;
+using ZeltNavMsg::Text::writeSigned;
+using ZeltNavMsg::Text::writeUnsigned;
 
 std::string viaWriteG(double v) {
     char text[ZeltNavMsg::Text::kMaxGLength];
@@ -104,12 +107,35 @@ TEST(WriteG, ScaledTableValues) {
     }
 }
 
+// The digit count changes at each power of ten and the arithmetic at 2^32: both sides
+// of each, and the ends of both types.
+TEST(WriteInteger, EveryDigitCountAndTheEnds) {
+    std::vector<std::uint64_t> values = {0, 0xFFFFFFFFU, 0x100000000U, ~std::uint64_t{0}};
+    for (std::uint64_t power = 1;; power *= 10) {
+        values.insert(values.end(), {power - 1, power, power + 1, 2 * power, 99 * power});
+        if (power > ~std::uint64_t{0} / 10) {
+            break;
+        }
+    }
+    for (const std::uint64_t v : values) {
+        char expected[32];
+        char text[32];
+        std::snprintf(expected, sizeof expected, "%llu", static_cast<unsigned long long>(v));
+        EXPECT_EQ(std::string(text, writeUnsigned(text, v)), expected);
+        for (const std::int64_t s :
+             {static_cast<std::int64_t>(v), -static_cast<std::int64_t>(v >> 1)}) {
+            std::snprintf(expected, sizeof expected, "%lld", static_cast<long long>(s));
+            EXPECT_EQ(std::string(text, writeSigned(text, s)), expected);
+        }
+    }
+}
+
 TEST(WriteHex, PadsToTheDigitCountAndNeverCuts) {
     for (const std::uint64_t value :
          {std::uint64_t{0}, std::uint64_t{0xF}, std::uint64_t{0x10}, std::uint64_t{0xABC},
           std::uint64_t{0x1FFFFFFF}, std::uint64_t{0xFFFFFFFF}, ~std::uint64_t{0},
-          std::uint64_t{1} << 63}) {
-        for (const int digits : {1, 2, 3, 4, 5, 8, 16, 17, 20}) {
+          std::uint64_t{1} << 63, std::uint64_t{0x123456789}, std::uint64_t{0xFEDCBA9876543}}) {
+        for (const int digits : {1, 2, 3, 4, 5, 8, 9, 12, 16, 17, 20}) {
             char expected[32];
             const int n = std::snprintf(expected, sizeof expected, "%0*llX", digits,
                                         static_cast<unsigned long long>(value));
