@@ -22,10 +22,6 @@ namespace {
 constexpr char kRawHexTag[Text::kCopySlack] = {',', ' ', 'R', 'a', 'w', ' ', 'h', 'e',
                                                'x', ':', 0,   0,   0,   0,   0,   0};
 constexpr std::size_t kRawHexTagLength = 10;
-// Room a value text takes at most, with what a writer may store past it.
-constexpr std::size_t kValueRoom = BitFieldValueDef::kMaxValueText + Text::kCopySlack;
-// Room of the raw hex part: the tag chunk and up to 17 digits (8-byte stores).
-constexpr std::size_t kRawHexRoom = Text::kCopySlack + 24;
 
 std::int64_t signExtend(std::uint64_t raw, std::int32_t width) noexcept {
     const int unused = 64 - width;
@@ -88,7 +84,32 @@ TreeLine valueLine(const BitFieldValueDef& field) {
 }
 
 std::size_t maxValueRoom(const TreeLine& line) noexcept {
-    return kValueRoom + line.unitsLength + Text::kCopySlack + kRawHexRoom;
+    // What the value's writer may store, then the units (copied in chunks) or the
+    // units, the tag and the hex digits (eight or sixteen stored at once).
+    std::size_t value = BitFieldValueDef::kMaxValueText;
+    switch (line.text) {
+        case ValueText::Unsigned:
+            value = 20;
+            break;
+        case ValueText::Signed:
+            value = 21;
+            break;
+        case ValueText::Real:
+        case ValueText::SignedReal:
+            value = Text::kMaxGLength;
+            break;
+        case ValueText::Flag:
+            value = 1;
+            break;
+        case ValueText::Field:
+            break;
+    }
+    const std::size_t units = line.unitsLength;
+    const std::size_t unitsChunks =
+        (std::max<std::size_t>(units, 1) + Text::kCopySlack - 1) / Text::kCopySlack *
+        Text::kCopySlack;
+    const std::size_t hex = std::max<std::size_t>(line.hexDigits, 16);
+    return value + std::max(unitsChunks, units + std::max(Text::kCopySlack, kRawHexTagLength + hex));
 }
 
 namespace {
@@ -133,16 +154,16 @@ char* copyPrefix(char* p, const char* prefix, std::size_t length) noexcept {
     }
     const auto valueLength = static_cast<std::size_t>(p - value);
     if (line.rawHexOnly) {
-        const char* const hexEnd = Text::writeHex(p, raw, line.hexDigits);
+        const char* const hexEnd = Text::writeHexDigits(p, raw, line.hexDigits);
         if (sameText(value, valueLength, p, static_cast<std::size_t>(hexEnd - p))) {
             return value;
         }
-        return Text::writeHex(value, raw, line.hexDigits);
+        return Text::writeHexDigits(value, raw, line.hexDigits);
     }
     p = Text::copyChunks(p, line.units, line.unitsLength);
     std::memcpy(p, kRawHexTag, sizeof kRawHexTag);
     char* const hex = p + kRawHexTagLength;
-    char* const hexEnd = Text::writeHex(hex, raw, line.hexDigits);
+    char* const hexEnd = Text::writeHexDigits(hex, raw, line.hexDigits);
     return sameText(value, valueLength, hex, static_cast<std::size_t>(hexEnd - hex)) ? p : hexEnd;
 }
 
@@ -288,13 +309,13 @@ class TreePlan::Builder {
         walk(def_, level_);
         layout.lineCount = static_cast<std::uint32_t>(plan_.lines_.size()) - layout.firstLine;
         layout.trailingBreaks = breaks_;
-        layout.room = Text::kCopySlack + 2 * std::size_t{breaks_};
+        layout.room = kPrefixBlock + 2 * std::size_t{breaks_};
         for (const TreeLine& line : plan_.lines(layout)) {
             if (line.kind != LineKind::Heading) {
                 ++layout.recordCount;
             }
             if (line.kind != LineKind::Hidden) {
-                layout.room += line.prefixLength[1] + kPrefixBlock;
+                layout.room += line.prefixLength[1];
             }
             if (line.kind == LineKind::Value) {
                 layout.room += maxValueRoom(line);

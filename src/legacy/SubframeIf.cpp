@@ -67,29 +67,24 @@ std::uint32_t readValue(const PlannedLine& line, const std::uint8_t* bits) noexc
     return static_cast<std::uint32_t>(value);
 }
 
-// Output room is taken this much at a time: small enough that a listing stays in the
-// TextBuffer's inline storage, large enough for a pass or two.
-constexpr std::size_t kRoomChunk = 2048;
-
 // Writes the line at `p`, where line.room() characters may be stored, and returns
 // its end. `out` gives the line end.
-inline char* writeLine(char* p, const PlannedLine& line, const std::uint8_t* bits,
-                       const Text::TextBuffer& out) noexcept {
-    std::memcpy(p, line.label, 32);
-    if (line.labelLength > 32) {
-        std::memcpy(p + 32, line.label + 32, 32);
+[[gnu::always_inline]] inline char* writeLine(char* p, const PlannedLine& line,
+                                              const std::uint8_t* bits,
+                                              const Text::TextBuffer& out) noexcept {
+    // The label and " 0x" in blocks: most take one.
+    std::memcpy(p, line.label, PlannedLine::kLabelBlock);
+    for (std::size_t i = PlannedLine::kLabelBlock; i < line.labelLength;
+         i += PlannedLine::kLabelBlock) {
+        std::memcpy(p + i, line.label + i, PlannedLine::kLabelBlock);
     }
     p += line.labelLength;
 
     const std::uint32_t value = readValue(line, bits);
     if (line.hexDigits != 0) {
-        char* const piece = p;
-        static constexpr char kHexPrefix[3] = {' ', '0', 'x'};  // not a C string
-        std::memcpy(p, kHexPrefix, sizeof kHexPrefix);
-        p = Text::writeHex(p + sizeof kHexPrefix, value, line.hexDigits);
-        if (static_cast<std::size_t>(p - piece) > PlannedLine::kMaxPiece) {
-            p = piece + PlannedLine::kMaxPiece;
-        }
+        // A hex piece longer than the 63 characters of its buffer is cut.
+        Text::writeHexDigits(p, value, line.hexDigits);
+        p += line.shownHexDigits;
     }
     switch (line.value) {
         case PlannedValue::None:
@@ -125,16 +120,13 @@ inline char* writeLine(char* p, const PlannedLine& line, const std::uint8_t* bit
             *p++ = '\'';
         }
     }
-    if (line.unitsLength != 0) {
-        if (line.longUnits == nullptr) {
-            std::memcpy(p, line.units, PlannedLine::kShortUnits);
-        } else {
-            *p = ' ';
-            std::memcpy(p + 1, line.longUnits, line.unitsLength - 1U);
-        }
-        p += line.unitsLength;
+    if (line.longUnits == nullptr) {  // " units" or nothing, as one block
+        std::memcpy(p, line.units, PlannedLine::kShortUnits);
+    } else {
+        *p = ' ';
+        std::memcpy(p + 1, line.longUnits, line.unitsLength - 1U);
     }
-    return out.putLineEnd(p);
+    return out.putLineEnd(p + line.unitsLength);
 }
 
 }  // namespace
@@ -142,7 +134,7 @@ inline char* writeLine(char* p, const PlannedLine& line, const std::uint8_t* bit
 void appendLineValue(const PlannedLine& line, const std::uint8_t* bits, Text::TextBuffer& out) {
     char* const p = out.reserve(line.room());
     const char* end = writeLine(p, line, bits, out) - out.lineEnd().size();
-    const char* value = p + line.labelLength;
+    const char* value = p + line.nameLength;
     if (value < end && *value == ' ') {
         ++value;
     }
@@ -189,28 +181,18 @@ void SubframeIf::DescribeFields(Text::TextBuffer& out, const subframe_t& sf,
         return;
     }
 
-    // Lines are written straight into room taken from `out` a few kilobytes at a time.
-    char* p = nullptr;
-    char* roomEnd = nullptr;
-    forEachLine(sf, layoutId, rawPass, false, [&](std::size_t, const PlannedLine& line) {
-        const std::size_t room = line.room();
-        if (static_cast<std::size_t>(roomEnd - p) < room) {
-            if (p != nullptr) {
-                out.commit(p);
+    // Each run's lines are written straight into room taken from `out` once.
+    forEachRun(sf, layoutId, rawPass, false, [&](const PlannedRun& run) {
+        char* p = out.reserve(run.room);
+        for (const PlannedLine& line : plan_->lines.subspan(run.first, run.count)) {
+            if (line.group != group) {
+                p = out.putLineEnd(p);
+                group = line.group;
             }
-            const std::size_t chunk = std::max(room, kRoomChunk);
-            p = out.reserve(chunk);
-            roomEnd = p + chunk;
+            p = writeLine(p, line, bits, out);
         }
-        if (line.group != group) {
-            p = out.putLineEnd(p);
-            group = line.group;
-        }
-        p = writeLine(p, line, bits, out);
-    });
-    if (p != nullptr) {
         out.commit(p);
-    }
+    });
 }
 
 void SubframeIf::describe(Text::TextBuffer& out, const subframe_t& sf, DecodingMode mode) const {

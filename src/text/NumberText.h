@@ -135,12 +135,10 @@ inline char* writeSigned(char* p, std::int64_t v) noexcept {
     return writeUnsigned(p, magnitude);
 }
 
-// Upper-case hex digits of `v`, zero-padded on the left to at least `minDigits`,
-// as "%0*lX" prints it: two digits at a time from a table, eight at a time into the
-// text. Up to 16 digits it may store 16 bytes at `p`.
-inline char* writeHex(char* p, std::uint64_t v, int minDigits) noexcept {
-    const int significant = v == 0 ? 1 : static_cast<int>((std::bit_width(v) + 3) / 4);
-    const int n = significant > minDigits ? significant : minDigits;
+// The last `n` upper-case hex digits of `v` (leading zeros included): two digits at
+// a time from a table, eight at a time into the text. Up to 16 digits it may store
+// 16 bytes at `p`.
+inline char* writeHexDigits(char* p, std::uint64_t v, int n) noexcept {
     if (n <= 4) {  // most fields: two lookups
         const auto x = static_cast<std::uint32_t>(v);
         Detail::storeBigEndian32(p, ((std::uint32_t{Detail::kHexPairs[(x >> 8) & 0xFFU]} << 16) |
@@ -165,6 +163,13 @@ inline char* writeHex(char* p, std::uint64_t v, int minDigits) noexcept {
         *--q = Detail::kHexDigits[v & 0xF];
     }
     return end;
+}
+
+// Upper-case hex digits of `v`, zero-padded on the left to at least `minDigits`,
+// as "%0*lX" prints it. Up to 16 digits it may store 16 bytes at `p`.
+inline char* writeHex(char* p, std::uint64_t v, int minDigits) noexcept {
+    const int significant = v == 0 ? 1 : static_cast<int>((std::bit_width(v) + 3) / 4);
+    return writeHexDigits(p, v, significant > minDigits ? significant : minDigits);
 }
 
 // `v` as "%g" prints it: six significant digits, correctly rounded (ties to even),
