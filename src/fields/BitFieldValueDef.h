@@ -1,7 +1,9 @@
 #ifndef ZELTNAVMSG_FIELDS_BITFIELDVALUEDEF_H
 #define ZELTNAVMSG_FIELDS_BITFIELDVALUEDEF_H
 
+#include <bit>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -55,8 +57,15 @@ class BitFieldValueDef : public BitFieldDef {
   private:
     [[nodiscard]] std::uint64_t readRawSlow(ConstBitBuffer buffer) const noexcept;
     static std::uint64_t loadBigEndian64(const std::uint8_t* p) noexcept {
+#if defined(__GNUC__) || defined(__clang__)
+        if constexpr (std::endian::native == std::endian::little) {
+            std::uint64_t v = 0;
+            std::memcpy(&v, p, sizeof v);
+            return __builtin_bswap64(v);
+        }
+#endif
         std::uint64_t v = 0;
-        for (int i = 0; i < 8; ++i) {  // one load and a byte swap once optimised
+        for (int i = 0; i < 8; ++i) {
             v = (v << 8) | p[i];
         }
         return v;
