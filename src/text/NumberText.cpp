@@ -153,11 +153,31 @@ char* writeG(char* p, double v) noexcept {
     // |v| * 10^k lies in [1e5, 1e7); if it reaches 1e6 the exponent is one more.
     int exponent = floorLog10Pow2(e + 52);
     const int k = 5 - exponent;
-    // Outside about 1e-22 ... 1e7, or a shift that 128 bits cannot take.
-    if (k < 0 || k > kMaxPow5 || e + k >= 0 || e + k < -127) {
+    Truncated scaled{};
+    if (k < 0) {
+        // A million or more: an integer below 2^64 is divided by 10^-k; any other
+        // value goes to the library.
+        std::uint64_t n = 0;
+        if (e >= 0 && e <= 11) {
+            n = m << e;
+        } else if (e < 0 && e > -53 && (m & ((std::uint64_t{1} << -e) - 1)) == 0) {
+            n = m >> -e;
+        } else {
+            return writeGByLibrary(p, v);
+        }
+        const std::uint64_t power = Detail::kPowersOf10[static_cast<std::size_t>(-k)];
+        const std::uint64_t rest = n % power;
+        const std::uint64_t half = power / 2;
+        scaled = {static_cast<std::uint32_t>(n / power), rest == 0      ? CutOff::Zero
+                                                         : rest < half  ? CutOff::BelowHalf
+                                                         : rest == half ? CutOff::Half
+                                                                        : CutOff::AboveHalf};
+    } else if (k > kMaxPow5 || e + k >= 0 || e + k < -127) {
+        // Below about 1e-22, or a shift that 128 bits cannot take.
         return writeGByLibrary(p, v);
+    } else {
+        scaled = scale(m, e, k);
     }
-    Truncated scaled = scale(m, e, k);
     if (scaled.value >= 1000000) {
         scaled = dropDigit(scaled);
         ++exponent;

@@ -174,9 +174,10 @@ inline char* writeHex(char* p, std::uint64_t v, int minDigits) noexcept {
 
 // `v` as "%g" prints it: six significant digits, correctly rounded (ties to even),
 // the shorter of fixed and exponent form, trailing zeros dropped. Values from about
-// 1e-22 to below 1e7 are converted exactly with integer arithmetic; the rest (and
-// compilers without 128-bit integers) go to std::to_chars in general form with
-// precision 6, which the C++ standard defines to print the same text.
+// 1e-22 to below 1e6, and integers from 1e6 to below 2^64, are converted exactly with
+// integer arithmetic; the rest (and compilers without 128-bit integers) go to
+// std::to_chars in general form with precision 6, which the C++ standard defines to
+// print the same text.
 char* writeG(char* p, double v) noexcept;
 
 }  // namespace ZeltNavMsg::Text

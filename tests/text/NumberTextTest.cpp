@@ -50,6 +50,9 @@ TEST(WriteG, EdgesOfEachForm) {
         99999.949999, 0.000999999, 9.5, 99.99995,
         // Exact ties at the seventh digit round to even.
         123456.5, 123457.5, 0.1015625, 0.1171875, 1.0000005e6, 2.5e-5, 0.0078125,
+        // Integers of a million and more: divided by a power of ten, up to 2^64.
+        3801088.0, -5963776.0, 1250000.0, 1250001.0, 1350000.0, 9999995.0, 9999994.0,
+        18446744073709549568.0, 18446744073709551616.0, 4503599627370497.0, 1e15 + 5e9,
         // Long exponents, the ends of the exact path, and what it leaves to the library.
         1e-22, 1e-21, 9.99999e-23, 1e-100, 1e100, 1.5e-300, DBL_MAX, DBL_MIN, -DBL_MIN,
         DBL_MIN / 4, std::numeric_limits<double>::denorm_min(),
