@@ -177,19 +177,18 @@ class JsonWriter {
 
     // Makes room for `n` (at most kSize / 2) characters.
     void room(std::size_t n) {
-        if (static_cast<std::size_t>(buffer_ + kSize - p_) < n) {
+        if (static_cast<std::size_t>(buffer_ + kSize - p_) < n) [[unlikely]] {
             flush();
         }
     }
-    void flush() {
+    [[gnu::noinline]] void flush() {
         out_.append(buffer_, p_);
         p_ = buffer_;
     }
 
     void put(std::string_view s) {
-        if (s.size() > kLong) {
-            flush();
-            out_.append(s);
+        if (s.size() > kLong) [[unlikely]] {
+            putLong(s);
             return;
         }
         room(s.size());
@@ -213,15 +212,26 @@ class JsonWriter {
         room(kNumber);
         p_ = Text::writeHexDigits(p_, v, digits < 1 ? 1 : digits > 16 ? 16 : digits);
     }
-    // A JSON string, escaped as appendJsonString escapes it.
+    // A JSON string, escaped as appendJsonString escapes it; eight characters at a
+    // time up to the first that needs an escape.
     void string(std::string_view s) {
-        if (s.size() > kLong) {
+        if (s.size() > kLong) [[unlikely]] {
             flush();
             appendJsonString(out_, s);
             return;
         }
         room(6 * s.size() + 2);
         *p_++ = '"';
+        while (s.size() >= 8) {
+            std::uint64_t block = 0;
+            std::memcpy(&block, s.data(), 8);
+            if (needsEscape(block)) {
+                break;
+            }
+            std::memcpy(p_, &block, 8);
+            p_ += 8;
+            s.remove_prefix(8);
+        }
         for (const char ch : s) {
             const auto c = static_cast<unsigned char>(ch);
             if (c >= 0x20 && c < 0x80 && c != '"' && c != '\\') {
@@ -272,6 +282,22 @@ class JsonWriter {
     // What writeShortest, an integer or hex digits take, with what the writers store
     // past their text.
     static constexpr std::size_t kNumber = 40;
+
+    [[gnu::noinline]] void putLong(std::string_view s) {
+        flush();
+        out_.append(s);
+    }
+
+    // Whether any of eight bytes is below 0x20, from 0x80 up, '"' or '\\' (exact for
+    // the eight together: no borrow reaches a byte from one that tests true).
+    static constexpr bool needsEscape(std::uint64_t x) noexcept {
+        constexpr std::uint64_t kOnes = 0x0101010101010101U;
+        constexpr std::uint64_t kHigh = 0x8080808080808080U;
+        const auto below = [&](std::uint64_t v, std::uint64_t n) { return (v - kOnes * n) & ~v; };
+        const std::uint64_t quote = x ^ (kOnes * '"');
+        const std::uint64_t backslash = x ^ (kOnes * '\\');
+        return ((below(x, 0x20) | below(quote, 1) | below(backslash, 1) | x) & kHigh) != 0;
+    }
 
     std::string& out_;
     char* p_ = buffer_;
