@@ -34,10 +34,12 @@ struct PlannedSegment {
 // The number printed after the optional hex part.
 enum class PlannedValue : std::uint8_t {
     None,
-    Unsigned,        // " %lu"
-    Signed,          // " %ld" of the sign-extended value
-    ScaledUnsigned,  // " %g" of value x scale
-    ScaledSigned,    // " %g" of the sign-extended value x scale
+    Unsigned,           // " %lu"
+    Signed,             // " %ld" of the sign-extended value
+    ScaledUnsigned,     // " %g" of value x scale
+    ScaledSigned,       // " %g" of the sign-extended value x scale
+    UnsignedCharacter,  // " %lu", then " '%c'" of the low byte
+    Character,          // " '%c'" of the low byte alone
 };
 
 struct PlannedLine {
@@ -64,7 +66,6 @@ struct PlannedLine {
     std::uint8_t hexDigits = 0;     // 0: no hex part
     std::uint8_t shownHexDigits = 0;
     PlannedValue value = PlannedValue::None;
-    bool showCharacter = false;  // " '%c'" after the number
     std::uint8_t segmentCount = 0;
     std::uint16_t entry = 0;  // index of the table entry
     std::uint16_t lineRoom = 0;
@@ -218,7 +219,10 @@ constexpr PlannedLine planLine(const SubframeFieldInfo& field) {
     switch (field.valueType) {
         case kUnsigned:
             line.value = integerShown ? PlannedValue::Unsigned : PlannedValue::None;
-            line.showCharacter = (field.flags & kShowCharacter) != 0 && width <= 8;
+            if ((field.flags & kShowCharacter) != 0 && width <= 8) {  // " '%c'" follows
+                line.value =
+                    integerShown ? PlannedValue::UnsignedCharacter : PlannedValue::Character;
+            }
             break;
         case kSigned:
             line.value = integerShown ? PlannedValue::Signed : PlannedValue::None;

@@ -67,22 +67,37 @@ std::uint32_t readValue(const PlannedLine& line, const std::uint8_t* bits) noexc
     return static_cast<std::uint32_t>(value);
 }
 
+// The output's line end, held in registers through a run.
+struct LineEnd {
+    char chars[2];
+    std::size_t size;
+
+    explicit LineEnd(const Text::TextBuffer& out) noexcept
+        : chars{out.lineEnd()[0], out.lineEnd().size() > 1 ? out.lineEnd()[1] : '\0'},
+          size(out.lineEnd().size()) {}
+    char* put(char* p) const noexcept {
+        std::memcpy(p, chars, 2);
+        return p + size;
+    }
+};
+
 // Writes the line at `p`, where line.room() characters may be stored, and returns
-// its end. `out` gives the line end.
+// its end.
 [[gnu::always_inline]] inline char* writeLine(char* p, const PlannedLine& line,
                                               const std::uint8_t* bits,
-                                              const Text::TextBuffer& out) noexcept {
+                                              const LineEnd lineEnd) noexcept {
     // The label and " 0x" in blocks: most take one.
     std::memcpy(p, line.label, PlannedLine::kLabelBlock);
-    for (std::size_t i = PlannedLine::kLabelBlock; i < line.labelLength;
-         i += PlannedLine::kLabelBlock) {
-        std::memcpy(p + i, line.label + i, PlannedLine::kLabelBlock);
+    if (line.labelLength > PlannedLine::kLabelBlock) [[unlikely]] {
+        std::memcpy(p + PlannedLine::kLabelBlock, line.label + PlannedLine::kLabelBlock,
+                    sizeof line.label - PlannedLine::kLabelBlock);
     }
     p += line.labelLength;
 
     const std::uint32_t value = readValue(line, bits);
     if (line.hexDigits != 0) {
-        // A hex piece longer than the 63 characters of its buffer is cut.
+        // A hex piece longer than the 63 characters of its buffer is cut; the digit
+        // count covers the 32-bit value (ceil(width / 4), at least 9 above 32 bits).
         Text::writeHexDigits(p, value, line.hexDigits);
         p += line.shownHexDigits;
     }
@@ -105,35 +120,41 @@ std::uint32_t readValue(const PlannedLine& line, const std::uint8_t* bits) noexc
             *p++ = ' ';
             p = Text::writeG(p, static_cast<double>(signExtend(value, line.width)) * line.scale);
             break;
-    }
-    if (line.showCharacter) {
-        // " '%c'" appended as a C string: a NUL character ends the piece, and a line
-        // feed is a line end like any other.
-        const auto c = static_cast<char>(value & 0xFFU);
-        *p++ = ' ';
-        *p++ = '\'';
-        if (c == '\n') {
-            p = out.putLineEnd(p);
+        case PlannedValue::UnsignedCharacter:
+        case PlannedValue::Character: {
+            if (line.value == PlannedValue::UnsignedCharacter) {
+                *p++ = ' ';
+                p = Text::writeUnsigned(p, value);
+            }
+            // " '%c'" appended as a C string: a NUL character ends the piece, and a line
+            // feed is a line end like any other.
+            const auto c = static_cast<char>(value & 0xFFU);
+            *p++ = ' ';
             *p++ = '\'';
-        } else if (c != '\0') {
-            *p++ = c;
-            *p++ = '\'';
+            if (c == '\n') {
+                p = lineEnd.put(p);
+                *p++ = '\'';
+            } else if (c != '\0') {
+                *p++ = c;
+                *p++ = '\'';
+            }
+            break;
         }
     }
-    if (line.longUnits == nullptr) {  // " units" or nothing, as one block
+    if (line.longUnits == nullptr) [[likely]] {  // " units" or nothing, as one block
         std::memcpy(p, line.units, PlannedLine::kShortUnits);
     } else {
         *p = ' ';
         std::memcpy(p + 1, line.longUnits, line.unitsLength - 1U);
     }
-    return out.putLineEnd(p + line.unitsLength);
+    return lineEnd.put(p + line.unitsLength);
 }
 
 }  // namespace
 
 void appendLineValue(const PlannedLine& line, const std::uint8_t* bits, Text::TextBuffer& out) {
     char* const p = out.reserve(line.room());
-    const char* end = writeLine(p, line, bits, out) - out.lineEnd().size();
+    const char* end = writeLine(p, line, bits, LineEnd(out)) - out.lineEnd().size();
     const char* value = p + line.nameLength;
     if (value < end && *value == ' ') {
         ++value;
@@ -175,22 +196,25 @@ void SubframeIf::DescribeFields(Text::TextBuffer& out, const subframe_t& sf,
                     p = out.putLineEnd(p);
                     group = line.group;
                 }
-                out.commit(writeLine(p, line, bits, out));
+                out.commit(writeLine(p, line, bits, LineEnd(out)));
             }
         }
         return;
     }
 
     // Each run's lines are written straight into room taken from `out` once.
+    const LineEnd lineEnd(out);
     forEachRun(sf, layoutId, rawPass, false, [&](const PlannedRun& run) {
         char* p = out.reserve(run.room);
+        std::int32_t runGroup = group;
         for (const PlannedLine& line : plan_->lines.subspan(run.first, run.count)) {
-            if (line.group != group) {
-                p = out.putLineEnd(p);
-                group = line.group;
+            if (line.group != runGroup) {
+                p = lineEnd.put(p);
+                runGroup = line.group;
             }
-            p = writeLine(p, line, bits, out);
+            p = writeLine(p, line, bits, lineEnd);
         }
+        group = runGroup;
         out.commit(p);
     });
 }
