@@ -32,6 +32,11 @@ class SubframeCoderBeidouNav final : public SubframeCoder {
     // land inside the codeword. Kept as it is: the listing of a damaged codeword
     // depends on it.
     [[nodiscard]] static std::uint16_t BchDecode(std::uint16_t codeword) noexcept;
+
+    // A received word 2-10 from its two 15-bit codewords (information first, parity in
+    // the low 4 bits): the bits alternate, the first codeword's bit first.
+    [[nodiscard]] static std::uint32_t InterleaveWord(std::uint32_t first,
+                                                      std::uint32_t second) noexcept;
 };
 
 }  // namespace ZeltNavMsg::Legacy
