@@ -66,6 +66,35 @@ bool isSyncPair(std::uint8_t first, std::uint8_t second) {
            (first == kSbfSync1 && second == kSbfSync2);
 }
 
+// Whether any of the eight bytes of `word` is `byte` (exact: a zero byte of the XOR
+// borrows into its own high bit only).
+constexpr bool hasByte(std::uint64_t word, std::uint8_t byte) {
+    constexpr std::uint64_t kOnes = 0x0101010101010101U;
+    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
+    const std::uint64_t x = word ^ (kOnes * byte);
+    return ((x - kOnes) & ~x & kHighBits) != 0;
+}
+
+// The first sync pair at or after `p`, or the last byte before `end` (which may begin a
+// pair), or `end`. Eight bytes at a time where none of them can begin a pair.
+std::size_t findSyncPair(const std::uint8_t* data, std::size_t p, std::size_t end) {
+    while (p + 1 < end) {
+        if (p + 8 < end) {
+            std::uint64_t word = 0;
+            std::memcpy(&word, data + p, sizeof word);
+            if (!hasByte(word, kUbxSync1) && !hasByte(word, kSbfSync1)) {
+                p += 8;
+                continue;
+            }
+        }
+        if (kSyncStart[data[p]] != 0 && isSyncPair(data[p], data[p + 1])) {
+            return p;
+        }
+        ++p;
+    }
+    return p;
+}
+
 // What the reader knows of a signal: its system letter, enum value and name.
 struct SignalInfo {
     char letter;
@@ -174,9 +203,7 @@ LogReader::State::Scan LogReader::State::scan(std::size_t& frameSize) {
     const std::uint8_t* const data = buffer.data();
     std::size_t p = begin;
     for (;;) {
-        while (p + 1 < end && (kSyncStart[data[p]] == 0 || !isSyncPair(data[p], data[p + 1]))) {
-            ++p;
-        }
+        p = findSyncPair(data, p, end);
         stats.skippedBytes += p - begin;
         begin = p;
         if (p + 1 >= end) {

@@ -6,6 +6,7 @@
 #include <random>
 #include <stdexcept>
 
+#include "fuzz/LogFuzzInput.h"
 #include "logs/LogReading.h"
 
 namespace ZeltNavMsg::Testing {
@@ -150,6 +151,18 @@ TEST(LogStream, StreamEndingInsideAFrame) {
         std::vector<ReadMessage> expected(whole.messages.begin(), whole.messages.end() - 1);
         EXPECT_TRUE(cut.messages == expected) << keep;
         EXPECT_EQ(cut.stats.truncatedFrames, keep == last + 1 ? 0U : 1U) << keep;
+    }
+}
+
+// The fuzz entry's checks hold on the real logs, whatever chunk size it picks.
+TEST(LogStream, FuzzChecksHoldOnTheLogs) {
+    for (const char* file : {"ublox-x20p.log", "20230919-114418.ubx", "pygpsdata_x5_rawnav.log"}) {
+        for (const char first : {'\x00', '\x05', '\xFF'}) {
+            const std::string input = first + loadReceiverLog(file);
+            const auto finding = Fuzz::checkLogInput(
+                reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
+            EXPECT_FALSE(finding) << file << ": " << *finding;
+        }
     }
 }
 
