@@ -46,17 +46,11 @@ TEST(MessageNumbering, RefusesWhatDecodeRefuses) {
                  DecodingError);
 }
 
-// A message shorter than its format reads as if zero-filled: an LNAV TLM alone has
-// subframe 0, a B-CNAV2 frame cut after its MesType keeps it.
+// Bits the input does not reach read as zero: a TLM alone is subframe 0; B-CNAV2 PRN 45
+// and MesType 30 (101101 011110) are all a frame needs for its page.
 TEST(MessageNumbering, MissingBitsReadAsZero) {
-    const SubframeAndPage lnav = MessageNumbering::GetSubframeAndPage(MessageFormat::GpsLNav, "8b");
-    EXPECT_EQ(lnav.subframe, 0);
-    EXPECT_EQ(lnav.page, 0);
-    // PRN 45, MesType 30: 101101 011110.
-    const SubframeAndPage b2a =
-        MessageNumbering::GetSubframeAndPage(MessageFormat::BeidouCNav2, "b5e");
-    EXPECT_EQ(b2a.subframe, 0);
-    EXPECT_EQ(b2a.page, 30);
+    EXPECT_EQ(MessageNumbering::GetSubframeAndPage(MessageFormat::GpsLNav, "8b").subframe, 0);
+    EXPECT_EQ(MessageNumbering::GetSubframeAndPage(MessageFormat::BeidouCNav2, "b5e").page, 30);
 }
 
 }  // namespace
