@@ -63,7 +63,7 @@ class Crc {
             crc = feedBit(crc, (data[bit / 8] >> (7 - bit % 8)) & 1U);
         }
         const std::size_t end = first + count;
-        const unsigned shift = static_cast<unsigned>(bit % 8);
+        const auto shift = static_cast<unsigned>(bit % 8);
         for (; bit < end; bit += 8) {
             const std::size_t byte = bit / 8;
             std::uint32_t window = static_cast<std::uint32_t>(data[byte]) << 8;

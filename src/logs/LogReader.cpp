@@ -28,7 +28,8 @@ constexpr std::uint8_t kSbfSync2 = 0x40;  // '@'
 constexpr std::size_t kUbxHeader = 6;
 constexpr std::size_t kSbfHeader = 8;
 constexpr std::size_t kSbfTimeEnd = 14;
-constexpr std::size_t kSbfBody = 20;  // raw navigation blocks: NAVBits start here
+constexpr std::size_t kSbfBody = 20;     // raw navigation blocks: NAVBits start here
+constexpr std::size_t kFrameWords = 57;  // NAVBits of the L1C and B1C frame blocks
 
 // UBX messages the reader looks at (class << 8 | id).
 constexpr std::uint16_t kNavTimeGps = 0x0120;
@@ -516,7 +517,7 @@ bool LogReader::State::handleSbf(const std::uint8_t* block, std::size_t size, Lo
 bool LogReader::State::sbfRawNav(std::uint16_t number, const std::uint8_t* block, std::size_t size,
                                  LogMessage& message) {
     const bool frame = number == kBdsRawB1c || number == kGpsRawL1c || number == kQzsRawL1c;
-    const std::size_t words = frame ? 57 : (number == kBdsRawB2a ? 18 : 10);
+    const std::size_t words = frame ? kFrameWords : (number == kBdsRawB2a ? 18 : 10);
     if (size < kSbfBody + 4 * words) {
         ++stats.malformedRecords;
         return false;
@@ -606,7 +607,7 @@ bool LogReader::State::sbfRawNav(std::uint16_t number, const std::uint8_t* block
         return false;
     }
 
-    std::array<std::uint8_t, 4 * 57> raw{};
+    std::array<std::uint8_t, 4 * kFrameWords> raw{};
     Logs::wordsToBits(navBits, words, raw.data());
     bits.clear();
     switch (format) {
