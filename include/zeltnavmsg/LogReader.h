@@ -16,6 +16,10 @@
 
 namespace ZeltNavMsg {
 
+namespace Detail {
+struct LogReaderState;  // the reader's buffer and state, private to the library
+}  // namespace Detail
+
 enum class LogProtocol : std::uint8_t {
     Ubx = 0,  // u-blox UBX frame
     Sbf = 1,  // Septentrio SBF block
@@ -138,8 +142,7 @@ class ZELTNAVMSG_API LogReader {
     void reset() noexcept;
 
   private:
-    struct State;
-    std::unique_ptr<State> state_;
+    std::unique_ptr<Detail::LogReaderState> state_;
 };
 
 }  // namespace ZeltNavMsg

@@ -142,7 +142,7 @@ constexpr std::size_t kBeidouPrns = 64;
 
 }  // namespace
 
-struct LogReader::State {
+struct Detail::LogReaderState {
     std::array<std::uint8_t, kBufferBytes> buffer{};
     std::size_t begin = 0;   // first byte not yet consumed
     std::size_t end = 0;     // end of the bytes held
@@ -200,7 +200,7 @@ struct LogReader::State {
 };
 
 // Looks for the next frame from `begin`. Bytes passed over count as skipped.
-LogReader::State::Scan LogReader::State::scan(std::size_t& frameSize) {
+Detail::LogReaderState::Scan Detail::LogReaderState::scan(std::size_t& frameSize) {
     const std::uint8_t* const data = buffer.data();
     std::size_t p = begin;
     for (;;) {
@@ -254,7 +254,7 @@ LogReader::State::Scan LogReader::State::scan(std::size_t& frameSize) {
     }
 }
 
-void LogReader::State::refill() {
+void Detail::LogReaderState::refill() {
     if (begin > 0) {
         std::memmove(buffer.data(), buffer.data() + begin, end - begin);
         base += begin;
@@ -272,7 +272,7 @@ void LogReader::State::refill() {
     }
 }
 
-bool LogReader::State::handleFrame(std::size_t size, LogMessage& message) {
+bool Detail::LogReaderState::handleFrame(std::size_t size, LogMessage& message) {
     const std::uint8_t* frame = buffer.data() + begin;
     frameOffset = base + begin;
     begin += size;
@@ -284,7 +284,8 @@ bool LogReader::State::handleFrame(std::size_t size, LogMessage& message) {
     return handleSbf(frame, size, message);
 }
 
-bool LogReader::State::handleUbx(const std::uint8_t* frame, std::size_t size, LogMessage& message) {
+bool Detail::LogReaderState::handleUbx(const std::uint8_t* frame, std::size_t size,
+                                       LogMessage& message) {
     const auto kind = static_cast<std::uint16_t>((frame[2] << 8) | frame[3]);
     const std::uint8_t* payload = frame + kUbxHeader;
     const std::size_t length = size - kUbxHeader - 2;
@@ -330,7 +331,8 @@ bool LogReader::State::handleUbx(const std::uint8_t* frame, std::size_t size, Lo
     }
 }
 
-bool LogReader::State::sfrbx(const std::uint8_t* payload, std::size_t size, LogMessage& message) {
+bool Detail::LogReaderState::sfrbx(const std::uint8_t* payload, std::size_t size,
+                                   LogMessage& message) {
     ++stats.navRecords;
     if (size < 8 || size != 8 + 4 * std::size_t{payload[4]}) {
         ++stats.malformedRecords;
@@ -410,8 +412,8 @@ bool LogReader::State::sfrbx(const std::uint8_t* payload, std::size_t size, LogM
     return emit(*signal, sv, format, message);
 }
 
-bool LogReader::State::b1cRecord(std::uint32_t svId, const std::uint8_t* words, std::size_t count,
-                                 LogMessage& message) {
+bool Detail::LogReaderState::b1cRecord(std::uint32_t svId, const std::uint8_t* words,
+                                       std::size_t count, LogMessage& message) {
     B1cSatellite& sat = b1c[svId];
     switch (count) {
         case 9: {  // subframe 3: it waits for its subframe 2
@@ -480,7 +482,8 @@ bool LogReader::State::b1cRecord(std::uint32_t svId, const std::uint8_t* words, 
     }
 }
 
-bool LogReader::State::handleSbf(const std::uint8_t* block, std::size_t size, LogMessage& message) {
+bool Detail::LogReaderState::handleSbf(const std::uint8_t* block, std::size_t size,
+                                       LogMessage& message) {
     const auto number = static_cast<std::uint16_t>(le16(block + 4) & 0x1FFFU);
     switch (number) {
         case kGpsRawCa:
@@ -514,8 +517,8 @@ bool LogReader::State::handleSbf(const std::uint8_t* block, std::size_t size, Lo
     }
 }
 
-bool LogReader::State::sbfRawNav(std::uint16_t number, const std::uint8_t* block, std::size_t size,
-                                 LogMessage& message) {
+bool Detail::LogReaderState::sbfRawNav(std::uint16_t number, const std::uint8_t* block,
+                                       std::size_t size, LogMessage& message) {
     const bool frame = number == kBdsRawB1c || number == kGpsRawL1c || number == kQzsRawL1c;
     const std::size_t words = frame ? kFrameWords : (number == kBdsRawB2a ? 18 : 10);
     if (size < kSbfBody + 4 * words) {
@@ -674,8 +677,8 @@ bool LogReader::State::sbfRawNav(std::uint16_t number, const std::uint8_t* block
     return emit(*signal, prn, format, message);
 }
 
-bool LogReader::State::emit(const SignalInfo& signal, std::uint32_t number, MessageFormat format,
-                            LogMessage& message) {
+bool Detail::LogReaderState::emit(const SignalInfo& signal, std::uint32_t number,
+                                  MessageFormat format, LogMessage& message) {
     satellite[0] = signal.letter;
     satellite[1] = static_cast<char>('0' + number / 10 % 10);
     satellite[2] = static_cast<char>('0' + number % 10);
@@ -700,13 +703,13 @@ bool LogReader::State::emit(const SignalInfo& signal, std::uint32_t number, Mess
     return true;
 }
 
-LogReader::LogReader() : state_(std::make_unique<State>()) {}
+LogReader::LogReader() : state_(std::make_unique<Detail::LogReaderState>()) {}
 LogReader::~LogReader() = default;
 LogReader::LogReader(LogReader&& other) noexcept = default;
 LogReader& LogReader::operator=(LogReader&& other) noexcept = default;
 
 void LogReader::feed(std::span<const std::uint8_t> bytes) {
-    State& s = *state_;
+    Detail::LogReaderState& s = *state_;
     if (s.finished) {
         throw std::logic_error("LogReader::feed: the stream is finished; reset() starts another");
     }
@@ -728,10 +731,10 @@ void LogReader::finish() {
 }
 
 bool LogReader::next(LogMessage& message) {
-    State& s = *state_;
+    Detail::LogReaderState& s = *state_;
     for (;;) {
         std::size_t frameSize = 0;
-        if (s.scan(frameSize) == State::Scan::Frame) {
+        if (s.scan(frameSize) == Detail::LogReaderState::Scan::Frame) {
             if (s.handleFrame(frameSize, message)) {
                 return true;
             }
