@@ -128,6 +128,11 @@ SubframeCoderBeidouNav::CodewordPair SubframeCoderBeidouNav::DeinterleaveWord(
             static_cast<std::uint16_t>(evenBits(word))};
 }
 
+std::uint32_t SubframeCoderBeidouNav::InterleaveWord(std::uint32_t first,
+                                                     std::uint32_t second) noexcept {
+    return (spreadBits(first & kCodewordMask) << 1) | spreadBits(second & kCodewordMask);
+}
+
 bool SubframeCoderBeidouNav::Encode(subframe_t& sf) const {
     // Built in a cleared copy, so bits past word 10 and words that do not fit the
     // record come out zero; it starts with the uncoded bits of word 1.
@@ -144,7 +149,7 @@ bool SubframeCoderBeidouNav::Encode(subframe_t& sf) const {
         const std::uint32_t word = readWord(sf.data, wordStart(w) - 1);
         const std::uint32_t a = codeword(word >> 19);
         const std::uint32_t b = codeword(word >> 8);
-        failed = WriteWord(coded, wordStart(w), (spreadBits(a) << 1) | spreadBits(b)) || failed;
+        failed = WriteWord(coded, wordStart(w), InterleaveWord(a, b)) || failed;
     }
     std::memcpy(sf.data, coded.data, sizeof sf.data);
     return failed;

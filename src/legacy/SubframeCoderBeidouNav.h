@@ -44,6 +44,11 @@ class SubframeCoderBeidouNav final : public SubframeCoder {
         std::uint16_t second;
     };
     [[nodiscard]] static CodewordPair DeinterleaveWord(std::uint32_t word) noexcept;
+
+    // A received word 2-10 from its two 15-bit codewords (information first, parity in
+    // the low 4 bits): the bits alternate, the first codeword's bit first.
+    [[nodiscard]] static std::uint32_t InterleaveWord(std::uint32_t first,
+                                                      std::uint32_t second) noexcept;
 };
 
 }  // namespace ZeltNavMsg::Legacy
