@@ -20,6 +20,7 @@
 #include "DecodeCommand.h"
 #include "ExitStatus.h"
 #include "FormatsCommand.h"
+#include "LogCommand.h"
 #include "Output.h"
 #include "zeltnavmsg/Version.h"
 
@@ -58,6 +59,7 @@ int run(int argc, char** argv, Output& out) {
     const DecodeCommand decode(app);
     const BatchCommand batch(app);
     const FormatsCommand formats(app);
+    const LogCommand log(app);
 
     if (argc <= 1) {
         const std::string usage = app.help();
@@ -86,6 +88,9 @@ int run(int argc, char** argv, Output& out) {
     }
     if (batch.selected()) {
         return batch.run(out);
+    }
+    if (log.selected()) {
+        return log.run(out);
     }
     if (formats.selected()) {
         return FormatsCommand::run(out);

@@ -320,8 +320,9 @@ void AppendJsonError(std::string& out, std::int64_t line, std::string_view type,
     out.append("}}\n");
 }
 
-std::string_view CsvHeader() noexcept {
-    return "line,sat,format,subframe,page,path,name,value,units,raw,ok\n";
+std::string_view CsvHeader(bool log) noexcept {
+    return log ? "line,sat,format,subframe,page,path,name,value,units,raw,ok,signal,week,tow\n"
+               : "line,sat,format,subframe,page,path,name,value,units,raw,ok\n";
 }
 
 void AppendCsvRows(std::string& out, const DecodedMessage& message, const RecordContext& context,
@@ -340,7 +341,20 @@ void AppendCsvRows(std::string& out, const DecodedMessage& message, const Record
     head.push_back(',');
     appendInteger(head, message.page());
     head.push_back(',');
-    const std::string_view verdict = message.ok() ? "true\n" : "false\n";
+    std::string verdict = message.ok() ? "true" : "false";
+    if (!context.signal.empty()) {
+        verdict.push_back(',');
+        appendCsvCell(verdict, context.signal);
+        verdict.push_back(',');
+        if (context.hasTime) {
+            appendInteger(verdict, context.week);
+            verdict.push_back(',');
+            appendNumber(verdict, context.tow);
+        } else {
+            verdict.push_back(',');
+        }
+    }
+    verdict.push_back('\n');
     for (const DecodedField& f : message.fields()) {
         if (!shown(f, options)) {
             continue;
