@@ -169,18 +169,18 @@ void describeForOutput(const FieldInfo& info, FieldDetail& detail) {
     appendJsonString(head, info.path);
     head.append(",\"name\":");
     appendJsonString(head, info.name);
-    head.append(",\"kind\":\"");
+    head.append(R"(,"kind":")");
     head.append(kKinds[static_cast<std::size_t>(info.kind)]);
     detail.jsonHead = head;
-    detail.jsonHead.append("\",\"value\":");
+    detail.jsonHead.append(R"(","value":)");
     detail.jsonHeadWithRole = head;
-    detail.jsonHeadWithRole.append("\",\"role\":\"");
+    detail.jsonHeadWithRole.append(R"(","role":")");
     detail.jsonHeadWithRole.append(kRoles[static_cast<std::size_t>(info.role)]);
-    detail.jsonHeadWithRole.append("\",\"value\":");
+    detail.jsonHeadWithRole.append(R"(","value":)");
     detail.jsonMid.assign(",\"units\":");
     appendJsonString(detail.jsonMid, info.units);
-    detail.jsonMid.append(",\"raw\":\"");
-    detail.jsonTail.assign("\",\"bits\":");
+    detail.jsonMid.append(R"(,"raw":")");
+    detail.jsonTail.assign(R"(","bits":)");
     appendJsonBits(detail.jsonTail, info.bits);
     detail.jsonTail.push_back('}');
 
@@ -243,7 +243,7 @@ void AppendJsonRecord(std::string& out, const DecodedMessage& message, const Rec
         appendJsonString(out, context.signal);
     }
     if (context.hasTime) {
-        out.append(",\"time\":{\"week\":");
+        out.append(R"(,"time":{"week":)");
         appendInteger(out, context.week);
         out.append(",\"tow\":");
         appendNumber(out, context.tow);
@@ -291,9 +291,9 @@ void AppendJsonRecord(std::string& out, const DecodedMessage& message, const Rec
         }
         out.append(",\"bits\":");
         appendJsonBits(out, c.bits);
-        out.append(",\"computed\":\"");
+        out.append(R"(,"computed":")");
         appendHex(out, c.computed, (c.checkBits + 3) / 4);
-        out.append("\",\"received\":\"");
+        out.append(R"(","received":")");
         appendHex(out, c.received, (c.checkBits + 3) / 4);
         out.push_back('"');
         if (c.correctedBit >= 0) {
@@ -313,7 +313,7 @@ void AppendJsonError(std::string& out, std::int64_t line, std::string_view type,
         appendInteger(out, line);
         out.push_back(',');
     }
-    out.append("\"error\":{\"type\":");
+    out.append(R"("error":{"type":)");
     appendJsonString(out, type);
     out.append(",\"message\":");
     appendJsonString(out, message);
