@@ -2,6 +2,7 @@
 //
 //   navmsg decode --sat G05 [--format LNAV] [--subframe N] [--page P] [--strict] [--crlf] HEX...
 //   navmsg batch [--strict] [--crlf] FILE|-
+//   navmsg encode [--format F [--sat SAT] ...] [--set PATH=VALUE]... [FILE|-]
 //   navmsg formats
 //
 // Exit status (ExitStatus.h): 0 all decoded, 1 some message failed, 2 usage or input
@@ -18,6 +19,7 @@
 
 #include "BatchCommand.h"
 #include "DecodeCommand.h"
+#include "EncodeCommand.h"
 #include "ExitStatus.h"
 #include "FormatsCommand.h"
 #include "Output.h"
@@ -57,6 +59,7 @@ int run(int argc, char** argv, Output& out) {
     app.footer(std::string(kExitStatusHelp));
     const DecodeCommand decode(app);
     const BatchCommand batch(app);
+    const EncodeCommand encode(app);
     const FormatsCommand formats(app);
 
     if (argc <= 1) {
@@ -86,6 +89,9 @@ int run(int argc, char** argv, Output& out) {
     }
     if (batch.selected()) {
         return batch.run(out);
+    }
+    if (encode.selected()) {
+        return encode.run(out);
     }
     if (formats.selected()) {
         return FormatsCommand::run(out);

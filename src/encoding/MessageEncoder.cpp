@@ -73,7 +73,7 @@ std::string rangeText(const FieldInfo& field, const Records::ValueRule& rule) {
     const auto end = [&](std::uint64_t magnitude, bool negative) {
         if (rule.scale != 1.0) {
             const double v = static_cast<double>(magnitude) * rule.scale;
-            return numberText(negative ? -v : v);
+            return numberText(negative && magnitude != 0 ? -v : v);
         }
         char text[24];
         char* p = text;
