@@ -322,11 +322,14 @@ EncodeCommand::EncodeCommand(CLI::App& app)
         ->needs(format);
     command_->add_option("--set", sets_,
                          "PATH=VALUE: a field (path or name; PATH[K] the K-th record of a path) "
-                         "to a value in its units; a character field takes a character");
-    command_->add_option("--raw", raws_, "PATH=RAW: a field to raw bits, decimal or 0x hex");
+                         "to a value in its units; a character field takes a character")
+        ->allow_extra_args(false);
+    command_->add_option("--raw", raws_, "PATH=RAW: a field to raw bits, decimal or 0x hex")
+        ->allow_extra_args(false);
     command_->add_flag("--keep-checks", keepChecks_,
                        "Keep parity, BCH and CRC bits as given instead of computing them");
-    command_->add_option("--flip", flips_, "Flip bit BIT (0 = first) after encoding");
+    command_->add_option("--flip", flips_, "Flip bit BIT (0 = first) after encoding")
+        ->allow_extra_args(false);
     command_->add_flag("--hex", hexOnly_, "Write the hex only, not 'SAT FORMAT SUBFRAME PAGE HEX'");
     command_
         ->add_option("FILE", path_,
