@@ -1,8 +1,9 @@
 #include "zeltnavmsg/MessageEncoder.h"
 
 #include <algorithm>
+#include <bit>
 #include <charconv>
-#include <cmath>
+#include <cstring>
 #include <stdexcept>
 
 #include "api/HexInput.h"
@@ -43,13 +44,51 @@ std::string unitsText(const FieldInfo& field) {
     return text;
 }
 
-// `count` bits of `value` (its low bits, the first most significant) from bit `first`.
-void writeRun(std::uint8_t* bytes, std::int32_t first, std::int32_t count,
+constexpr std::uint64_t byteSwap(std::uint64_t v) noexcept {
+#if defined(__GNUC__) || defined(__clang__)
+    return __builtin_bswap64(v);
+#else
+    std::uint64_t r = 0;
+    for (int i = 0; i < 8; ++i, v >>= 8) {
+        r = (r << 8) | (v & 0xFFU);
+    }
+    return r;
+#endif
+}
+
+// Eight bytes from `p`, the first most significant, and back: one load or store each.
+std::uint64_t load64(const std::uint8_t* p) noexcept {
+    std::uint64_t v = 0;
+    std::memcpy(&v, p, sizeof v);
+    return std::endian::native == std::endian::little ? byteSwap(v) : v;
+}
+void store64(std::uint8_t* p, std::uint64_t v) noexcept {
+    v = std::endian::native == std::endian::little ? byteSwap(v) : v;
+    std::memcpy(p, &v, sizeof v);
+}
+
+// `count` bits of `value` (its low bits, the first most significant) from bit `first` of
+// the `size` bytes at `bytes`: within one byte, one eight-byte window, or byte by byte.
+void writeRun(std::uint8_t* bytes, std::size_t size, std::int32_t first, std::int32_t count,
               std::uint64_t value) noexcept {
+    const auto at = static_cast<std::size_t>(first / 8);
+    const std::int32_t offset = first % 8;
+    if (offset + count <= 8) {  // BeiDou fields come one bit at a time
+        const auto shift = static_cast<unsigned>(8 - offset - count);
+        const auto mask = static_cast<std::uint8_t>(lowBitsMask(count) << shift);
+        bytes[at] = static_cast<std::uint8_t>((bytes[at] & ~mask) | ((value << shift) & mask));
+        return;
+    }
+    if (offset + count <= 64 && at + 8 <= size) {
+        const auto shift = static_cast<unsigned>(64 - offset - count);
+        const std::uint64_t mask = lowBitsMask(count) << shift;
+        store64(bytes + at, (load64(bytes + at) & ~mask) | ((value << shift) & mask));
+        return;
+    }
     while (count > 0) {
-        const std::int32_t offset = first % 8;
-        const std::int32_t take = std::min(8 - offset, count);
-        const auto shift = static_cast<unsigned>(8 - offset - take);
+        const std::int32_t inByte = first % 8;
+        const std::int32_t take = std::min(8 - inByte, count);
+        const auto shift = static_cast<unsigned>(8 - inByte - take);
         const auto mask = static_cast<std::uint8_t>(((1U << take) - 1U) << shift);
         const auto bits = static_cast<std::uint8_t>(((value >> (count - take)) << shift) & mask);
         std::uint8_t& byte = bytes[first / 8];
@@ -186,9 +225,9 @@ void MessageEncoder::setRaw(const FieldInfo& field, std::uint64_t raw) {
     for (const BitSegment& s : field.bits) {
         left -= s.count;
         const std::uint64_t part = left >= 64 ? 0 : raw >> left;
-        writeRun(bits_.data(), s.first, s.count, part);
+        writeRun(bits_.data(), kBytes, s.first, s.count, part);
         if (damaged_) {
-            writeRun(damage_.data(), s.first, s.count, 0);
+            writeRun(damage_.data(), kBytes, s.first, s.count, 0);
         }
     }
     stale_ = true;
@@ -221,25 +260,32 @@ std::uint64_t MessageEncoder::rawOf(const FieldInfo& field, double value) {
     const std::int32_t width = rule.width;
     const bool isUnsigned = isUnsignedFormat(rule.format);
     const bool signMagnitude = rule.format == NumberFormat::SignMagnitudeNumberFormat;
-    // The codes as integers, from `low` up to below `end` (2^width and 2^(width - 1) are
-    // exact in a double); a one-bit signed field reads 1 as -1.
-    const double end = std::ldexp(1.0, isUnsigned ? width : width - 1);
-    const double low = isUnsigned ? 0.0 : signMagnitude && width > 1 ? 1.0 - end : -end;
-    const double count = std::round(value / rule.scale);
-    if (!(count >= low && count < end) || !(rule.scale > 0.0)) {
-        const std::string units = unitsText(field);
-        throw EncodingError(std::string(field.path) + ": " + numberText(value) + units +
-                            " is outside the range " + rangeText(field, rule) + " (LSB " +
-                            numberText(rule.scale) + units + ")");
+    // The codes as integers, lowest ... highest; a one-bit signed field reads 1 as -1.
+    const std::uint64_t highest = isUnsigned ? lowBitsMask(width) : lowBitsMask(width - 1);
+    const std::int64_t lowest = isUnsigned      ? 0
+                                : width == 1    ? -1
+                                : signMagnitude ? -static_cast<std::int64_t>(highest)
+                                                : -static_cast<std::int64_t>(highest) - 1;
+    constexpr double kTwo63 = 9223372036854775808.0;
+    const double x = value / rule.scale;
+    if (rule.scale > 0.0 && x > -kTwo63 && x < kTwo63) {
+        // The nearest integer, halves away from zero: x minus its truncation is exact.
+        auto n = static_cast<std::int64_t>(x);
+        const double rest = x - static_cast<double>(n);
+        n += rest >= 0.5 ? 1 : rest <= -0.5 ? -1 : 0;
+        if (n >= lowest && (n < 0 || static_cast<std::uint64_t>(n) <= highest)) {
+            if (signMagnitude && n < 0) {
+                return static_cast<std::uint64_t>(-n) | (std::uint64_t{1} << (width - 1));
+            }
+            return static_cast<std::uint64_t>(n) & lowBitsMask(width);
+        }
+    } else if (isUnsigned && width == 64 && x >= kTwo63 && x < 2 * kTwo63) {
+        return static_cast<std::uint64_t>(x);  // a whole number at this size
     }
-    if (isUnsigned) {
-        return static_cast<std::uint64_t>(count);
-    }
-    const auto n = static_cast<std::int64_t>(count);
-    if (signMagnitude && n < 0) {
-        return static_cast<std::uint64_t>(-n) | (std::uint64_t{1} << (width - 1));
-    }
-    return static_cast<std::uint64_t>(n) & lowBitsMask(width);
+    const std::string units = unitsText(field);
+    throw EncodingError(std::string(field.path) + ": " + numberText(value) + units +
+                        " is outside the range " + rangeText(field, rule) + " (LSB " +
+                        numberText(rule.scale) + units + ")");
 }
 
 double MessageEncoder::valueOf(const FieldInfo& field, std::uint64_t raw) {
