@@ -210,7 +210,7 @@ void setField(MessageEncoder& encoder, const json& f, std::map<std::string, std:
     const json* path = member(f, "path");
     const json* key = path != nullptr ? path : member(f, "name");
     if (key == nullptr || !key->is_string()) {
-        throw MessageError{"a field needs its \"path\" or \"name\" as a string"};
+        throw MessageError{R"(a field needs its "path" or "name" as a string)"};
     }
     const std::string name = key->get<std::string>();
     const FieldInfo& field = encoder.field(name, seen[name]++);
@@ -250,7 +250,7 @@ void setField(MessageEncoder& encoder, const json& f, std::map<std::string, std:
     } else if (number) {
         encoder.set(field, *number);
     } else {
-        throw MessageError{where + ": the field has neither \"value\" nor \"raw\""};
+        throw MessageError{where + R"(: the field has neither "value" nor "raw")"};
     }
 }
 
@@ -320,9 +320,10 @@ EncodeCommand::EncodeCommand(CLI::App& app)
     command_->add_option("--page", page_, "Page number (default 0)")->needs(format);
     command_->add_option("--from", from_, "Start from these bits (hex) instead of all zeros")
         ->needs(format);
-    command_->add_option("--set", sets_,
-                         "PATH=VALUE: a field (path or name; PATH[K] the K-th record of a path) "
-                         "to a value in its units; a character field takes a character")
+    command_
+        ->add_option("--set", sets_,
+                     "PATH=VALUE: a field (path or name; PATH[K] the K-th record of a path) "
+                     "to a value in its units; a character field takes a character")
         ->allow_extra_args(false);
     command_->add_option("--raw", raws_, "PATH=RAW: a field to raw bits, decimal or 0x hex")
         ->allow_extra_args(false);
