@@ -298,6 +298,8 @@ class LegacyPlan {
             part.rule = rule;
             part.rule.width = partBits;
             part.isSigned = rule.format != NumberFormat::UnsignedNumberFormat;
+            detail.rule = part.rule;
+            detail.format = format_;
             parts_.push_back(part);
             part = LegacyPart{};
             partBits = 0;

@@ -140,6 +140,8 @@ class TreePlan {
             p.info.bitCount = partBits;
             p.rule = rule;
             p.rule.width = partBits;
+            detail.rule = p.rule;
+            detail.format = format_;
             p.firstSegment = segments_.size();
             for (const BitRange& r : part) {
                 segments_.push_back({r.firstBitIndex(), r.bitsCount()});
