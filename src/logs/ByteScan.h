@@ -13,7 +13,7 @@
 
 // The two loops that see every byte of a log: the search for sync bytes between
 // frames, and the UBX checksum over every frame of any class. Each has a portable form
-// and, where the target has SSE2 (every x86-64), one that takes 16 bytes a step.
+// and, where the target has SSE2 (every x86-64), one that takes 16 or 32 bytes a step.
 
 namespace ZeltNavMsg::Logs {
 

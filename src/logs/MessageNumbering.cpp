@@ -38,7 +38,8 @@ struct EntryInWords {
         std::uint8_t shift = 0;  // of the piece's last bit above the word's bit 0
         std::uint8_t length = 0;
     };
-    static constexpr std::size_t kMaxPieces = 2 * SubframeFieldInfo::kMaxSegments;
+    static constexpr auto kMaxPieces =
+        2 * static_cast<std::size_t>(SubframeFieldInfo::kMaxSegments);
 
     std::array<Piece, kMaxPieces> pieces{};
     std::size_t count = 0;
