@@ -1,7 +1,8 @@
 // Speed of the receiver log reader over bytes in which no frame starts (random bytes
 // without sync bytes, and NMEA text, whose '$' is followed by no '@'), and over the
-// real logs. bytes_per_second is the scan rate; items_per_second on the real logs is
-// messages per second.
+// ZED-F9P log fed whole and in the 64 KiB pieces navmsg reads (frames cut at the
+// pieces' ends are held and completed). bytes_per_second is the scan rate;
+// items_per_second on the real log is messages per second.
 //
 //   build/bench/bench/zeltnavmsg_bench --benchmark_filter=LogReader
 //       --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
@@ -12,6 +13,7 @@
 #include <iterator>
 #include <random>
 #include <string>
+#include <string_view>
 
 #include "zeltnavmsg/LogReader.h"
 
@@ -50,12 +52,17 @@ std::string receiverLog(const char* name) {
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-void scan(benchmark::State& state, const std::string& bytes) {
+void scan(benchmark::State& state, const std::string& bytes, std::size_t piece) {
     LogMessage message;
     std::int64_t messages = 0;
     for (auto _ : state) {
         LogReader reader;
-        reader.feed(bytes);
+        for (std::size_t at = 0; at < bytes.size(); at += piece) {
+            reader.feed(std::string_view(bytes).substr(at, piece));
+            while (reader.next(message)) {
+                ++messages;
+            }
+        }
         reader.finish();
         while (reader.next(message)) {
             ++messages;
@@ -64,6 +71,10 @@ void scan(benchmark::State& state, const std::string& bytes) {
     }
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
     state.SetItemsProcessed(messages);
+}
+
+void scan(benchmark::State& state, const std::string& bytes) {
+    scan(state, bytes, bytes.size());
 }
 
 void LogReaderRandomBytes(benchmark::State& state) {
@@ -83,5 +94,11 @@ void LogReaderUbloxF9pLog(benchmark::State& state) {
     scan(state, bytes);
 }
 BENCHMARK(LogReaderUbloxF9pLog)->Unit(benchmark::kMicrosecond);
+
+void LogReaderUbloxF9pLogIn64KiBPieces(benchmark::State& state) {
+    static const std::string bytes = receiverLog("20230919-114418.ubx");
+    scan(state, bytes, std::size_t{1} << 16);
+}
+BENCHMARK(LogReaderUbloxF9pLogIn64KiBPieces)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

@@ -155,18 +155,40 @@ bool SubframeCoderBeidouNav::Encode(subframe_t& sf) const {
     return failed;
 }
 
+namespace {
+
+// Received word 1 -> decoded: its 15 uncoded bits, the 11 information bits of its
+// codeword, 4 zero bits.
+inline std::uint32_t decodeFirstWord(std::uint32_t received) noexcept {
+    const std::uint32_t info =
+        SubframeCoderBeidouNav::BchDecode(static_cast<std::uint16_t>(received & kCodewordMask));
+    return (((received >> kUncodedBits) << 11) | info) << 4;
+}
+
+// Received word 2-10 -> decoded: the information bits of its two codewords, 8 zero bits.
+inline std::uint32_t decodeWord(std::uint32_t received) noexcept {
+    const SubframeCoderBeidouNav::CodewordPair pair =
+        SubframeCoderBeidouNav::DeinterleaveWord(received);
+    return ((static_cast<std::uint32_t>(SubframeCoderBeidouNav::BchDecode(pair.first)) << 11) |
+            SubframeCoderBeidouNav::BchDecode(pair.second))
+           << 8;
+}
+
+}  // namespace
+
 bool SubframeCoderBeidouNav::Decode(subframe_t& sf) const {
-    const std::uint32_t first = readWord(sf.data, 0);
-    const std::uint32_t info = BchDecode(static_cast<std::uint16_t>(first & kCodewordMask));
-    bool failed = WriteWord(sf, wordStart(0), (((first >> kUncodedBits) << 11) | info) << 4);
+    bool failed = WriteWord(sf, wordStart(0), decodeFirstWord(readWord(sf.data, 0)));
     for (int w = 1; w < kWords; ++w) {
-        const std::uint32_t word = readWord(sf.data, wordStart(w) - 1);
-        const CodewordPair pair = DeinterleaveWord(word);
-        const std::uint32_t decoded =
-            (static_cast<std::uint32_t>(BchDecode(pair.first)) << 11) | BchDecode(pair.second);
-        failed = WriteWord(sf, wordStart(w), decoded << 8) || failed;
+        failed =
+            WriteWord(sf, wordStart(w), decodeWord(readWord(sf.data, wordStart(w) - 1))) || failed;
     }
     return failed;
+}
+
+std::uint32_t SubframeCoderBeidouNav::DecodedWord(const subframe_t& sf,
+                                                  std::int32_t word) const noexcept {
+    const std::uint32_t received = readWord(sf.data, wordStart(word) - 1);
+    return word == 0 ? decodeFirstWord(received) : decodeWord(received);
 }
 
 }  // namespace ZeltNavMsg::Legacy

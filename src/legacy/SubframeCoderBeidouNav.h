@@ -24,6 +24,8 @@ class SubframeCoderBeidouNav final : public SubframeCoder {
 
     // Received layout -> decoded layout, every codeword through BchDecode.
     bool Decode(subframe_t& sf) const override;
+    [[nodiscard]] std::uint32_t DecodedWord(const subframe_t& sf,
+                                            std::int32_t word) const noexcept override;
 
     // The 11 information bits of a 15-bit codeword (information first, parity in the
     // low 4 bits) after this decoder's correction step. The syndrome comes from four

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "checks/Crc.h"
+#include "logs/ByteScan.h"
 #include "logs/RecordBits.h"
 #include "zeltnavmsg/SubframeAndPage.h"
 
@@ -17,14 +18,11 @@ using Logs::le16;
 using Logs::le32;
 using Logs::MessageBits;
 
-// Twice the largest frame: whatever part of a frame is kept at a refill, the rest of
-// it fits behind.
+// Twice the largest frame: a frame cut by the end of a fed span is held here with room
+// to spare, so the held bytes move to the front seldom.
 constexpr std::size_t kBufferBytes = 2 * (LogReader::kMaxFrameBytes + 1);
 
-constexpr std::uint8_t kUbxSync1 = 0xB5;
-constexpr std::uint8_t kUbxSync2 = 0x62;
-constexpr std::uint8_t kSbfSync1 = 0x24;  // '$'
-constexpr std::uint8_t kSbfSync2 = 0x40;  // '@'
+using Logs::kUbxSync1;
 constexpr std::size_t kUbxHeader = 6;
 constexpr std::size_t kSbfHeader = 8;
 constexpr std::size_t kSbfTimeEnd = 14;
@@ -53,48 +51,6 @@ constexpr std::uint16_t kUnmappedSbfRawNav[] = {4018, 4019, 4020, 4021, 4022,
 constexpr std::uint32_t kSbfTowUnknown = 0xFFFFFFFFU;
 constexpr std::uint16_t kSbfWeekUnknown = 0xFFFF;
 constexpr std::int32_t kSecondsPerWeek = 604800;
-
-// Byte -> 1 for the first byte of a sync pair.
-constexpr std::array<std::uint8_t, 256> kSyncStart = [] {
-    std::array<std::uint8_t, 256> table{};
-    table[kUbxSync1] = 1;
-    table[kSbfSync1] = 1;
-    return table;
-}();
-
-bool isSyncPair(std::uint8_t first, std::uint8_t second) {
-    return (first == kUbxSync1 && second == kUbxSync2) ||
-           (first == kSbfSync1 && second == kSbfSync2);
-}
-
-// Whether any of the eight bytes of `word` is `byte` (exact: a zero byte of the XOR
-// borrows into its own high bit only).
-constexpr bool hasByte(std::uint64_t word, std::uint8_t byte) {
-    constexpr std::uint64_t kOnes = 0x0101010101010101U;
-    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
-    const std::uint64_t x = word ^ (kOnes * byte);
-    return ((x - kOnes) & ~x & kHighBits) != 0;
-}
-
-// The first sync pair at or after `p`, or the last byte before `end` (which may begin a
-// pair), or `end`. Eight bytes at a time where none of them can begin a pair.
-std::size_t findSyncPair(const std::uint8_t* data, std::size_t p, std::size_t end) {
-    while (p + 1 < end) {
-        if (p + 8 < end) {
-            std::uint64_t word = 0;
-            std::memcpy(&word, data + p, sizeof word);
-            if (!hasByte(word, kUbxSync1) && !hasByte(word, kSbfSync1)) {
-                p += 8;
-                continue;
-            }
-        }
-        if (kSyncStart[data[p]] != 0 && isSyncPair(data[p], data[p + 1])) {
-            return p;
-        }
-        ++p;
-    }
-    return p;
-}
 
 // What the reader knows of a signal: its system letter, enum value and name.
 struct SignalInfo {
@@ -143,12 +99,19 @@ constexpr std::size_t kBeidouPrns = 64;
 }  // namespace
 
 struct Detail::LogReaderState {
+    // Frames are read where the fed bytes lie. Only a frame that the end of a fed span
+    // cuts is copied here, and the next spans' bytes after it as far as it needs them.
     std::array<std::uint8_t, kBufferBytes> buffer{};
     std::size_t begin = 0;   // first byte not yet consumed
-    std::size_t end = 0;     // end of the bytes held
+    std::size_t end = 0;     // end of the bytes held; 0 when none are
+    std::size_t held = 0;    // buffer[0, held) came from earlier spans, the rest from `pending`
     std::uint64_t base = 0;  // stream offset of buffer[0]
     const std::uint8_t* pending = nullptr;
     std::size_t pendingSize = 0;
+    // While bytes are held: the count copied from `pending`, so buffer[held, end) holds
+    // pending[0, pendingAt). Otherwise the first byte of `pending` not yet consumed.
+    std::size_t pendingAt = 0;
+    std::uint64_t pendingBase = 0;  // stream offset of pending[0]
     bool finished = false;
     bool flushedB1c = false;
     LogReaderStats stats;
@@ -171,10 +134,11 @@ struct Detail::LogReaderState {
     double frameSeconds = 0.0;
 
     void clear() noexcept {
-        begin = end = 0;
+        begin = end = held = 0;
         base = 0;
         pending = nullptr;
-        pendingSize = 0;
+        pendingSize = pendingAt = 0;
+        pendingBase = 0;
         finished = false;
         flushedB1c = false;
         stats = {};
@@ -184,10 +148,13 @@ struct Detail::LogReaderState {
         b1c.fill(B1cSatellite{});
     }
 
-    enum class Scan { Frame, NeedMore };
-    Scan scan(std::size_t& frameSize);
-    void refill();
-    bool handleFrame(std::size_t size, LogMessage& message);
+    enum class Read { Message, NeedMore };
+    Read read(const std::uint8_t* data, std::size_t& at, std::size_t stop, std::uint64_t offset,
+              std::size_t& needed, LogMessage& message);
+    void holdRest();
+    void topUp(std::size_t needed);
+    void releasePending() noexcept;
+    bool handleFrame(const std::uint8_t* frame, std::size_t size, LogMessage& message);
     bool handleUbx(const std::uint8_t* frame, std::size_t size, LogMessage& message);
     bool handleSbf(const std::uint8_t* block, std::size_t size, LogMessage& message);
     bool sfrbx(const std::uint8_t* payload, std::size_t size, LogMessage& message);
@@ -199,83 +166,112 @@ struct Detail::LogReaderState {
               LogMessage& message);
 };
 
-// Looks for the next frame from `begin`. Bytes passed over count as skipped.
-Detail::LogReaderState::Scan Detail::LogReaderState::scan(std::size_t& frameSize) {
-    const std::uint8_t* const data = buffer.data();
-    std::size_t p = begin;
+// Reads the frames of data[at, stop), the span's first byte at stream offset `offset`,
+// until one completes a message (Message), or until a frame that may begin at `at`
+// needs `needed` bytes from there, more than there are (NeedMore). Bytes passed over
+// count as skipped.
+Detail::LogReaderState::Read Detail::LogReaderState::read(const std::uint8_t* data, std::size_t& at,
+                                                          std::size_t stop, std::uint64_t offset,
+                                                          std::size_t& needed,
+                                                          LogMessage& message) {
+    std::size_t p = at;
     for (;;) {
-        p = findSyncPair(data, p, end);
-        stats.skippedBytes += p - begin;
-        begin = p;
-        if (p + 1 >= end) {
-            return Scan::NeedMore;
+        p = Logs::findSync(data, p, stop);
+        stats.skippedBytes += p - at;
+        at = p;
+        const std::size_t there = stop - p;
+        if (there < 2) {
+            needed = 2;
+            return Read::NeedMore;
         }
-        const std::size_t held = end - p;
+        std::size_t size = 0;
         if (data[p] == kUbxSync1) {
-            if (held < kUbxHeader) {
-                return Scan::NeedMore;
+            if (there < kUbxHeader) {
+                needed = kUbxHeader;
+                return Read::NeedMore;
             }
-            const std::size_t size = kUbxHeader + le16(data + p + 4) + 2;
-            if (held < size) {
-                return Scan::NeedMore;
+            size = kUbxHeader + le16(data + p + 4) + 2;
+            if (there < size) {
+                needed = size;
+                return Read::NeedMore;
             }
-            std::uint8_t a = 0;
-            std::uint8_t b = 0;
-            for (std::size_t i = p + 2; i < p + size - 2; ++i) {
-                a = static_cast<std::uint8_t>(a + data[i]);
-                b = static_cast<std::uint8_t>(b + a);
-            }
-            if (a == data[p + size - 2] && b == data[p + size - 1]) {
-                frameSize = size;
+            const Logs::Fletcher8 sums = Logs::fletcher8(data + p + 2, size - 4);
+            if (((sums.a ^ data[p + size - 2]) & 0xFFU) == 0 &&
+                ((sums.b ^ data[p + size - 1]) & 0xFFU) == 0) {
                 protocol = LogProtocol::Ubx;
-                return Scan::Frame;
+            } else {
+                ++stats.ubxBadChecksums;
+                size = 0;
             }
-            ++stats.ubxBadChecksums;
         } else {
-            if (held < kSbfHeader) {
-                return Scan::NeedMore;
+            if (there < kSbfHeader) {
+                needed = kSbfHeader;
+                return Read::NeedMore;
             }
-            const std::size_t size = le16(data + p + 6);
+            size = le16(data + p + 6);
             if (size < kSbfHeader || size % 4 != 0) {
                 ++stats.sbfBadLengths;
-            } else if (held < size) {
-                return Scan::NeedMore;
-            } else if (Checks::Crc16XModem::ofBytes(data + p + 4, size - 4) == le16(data + p + 2)) {
-                frameSize = size;
+                size = 0;
+            } else if (there < size) {
+                needed = size;
+                return Read::NeedMore;
+            } else if (Checks::Crc16XModem::ofBits(data + p + 4, 0, 8 * (size - 4)) ==
+                       le16(data + p + 2)) {
                 protocol = LogProtocol::Sbf;
-                return Scan::Frame;
             } else {
                 ++stats.sbfBadCrcs;
+                size = 0;
             }
         }
-        // Not a frame: the search goes on at the next byte.
-        ++stats.skippedBytes;
-        begin = ++p;
+        if (size == 0) {
+            // Not a frame: the search goes on at the next byte.
+            ++stats.skippedBytes;
+            at = ++p;
+            continue;
+        }
+        frameOffset = offset + p;
+        at = p += size;
+        if (handleFrame(data + p - size, size, message)) {
+            return Read::Message;
+        }
     }
 }
 
-void Detail::LogReaderState::refill() {
-    if (begin > 0) {
+// The rest of the fed span, a frame's beginning, is held for the next span.
+void Detail::LogReaderState::holdRest() {
+    const std::size_t n = pendingSize - pendingAt;
+    std::memcpy(buffer.data(), pending + pendingAt, n);
+    base = pendingBase + pendingAt;
+    begin = 0;
+    end = held = n;
+    pendingAt = pendingSize;
+}
+
+// Copies from the fed span until `needed` bytes from `begin` are held, or the span is
+// all copied.
+void Detail::LogReaderState::topUp(std::size_t needed) {
+    if (begin + needed > buffer.size()) {
         std::memmove(buffer.data(), buffer.data() + begin, end - begin);
         base += begin;
+        held -= begin;
         end -= begin;
         begin = 0;
     }
-    const std::size_t n = std::min(pendingSize, buffer.size() - end);
-    std::memcpy(buffer.data() + end, pending, n);
+    const std::size_t n = std::min(pendingSize - pendingAt, begin + needed - end);
+    std::memcpy(buffer.data() + end, pending + pendingAt, n);
     end += n;
-    pending += n;
-    pendingSize -= n;
-    stats.bytes += n;
-    if (pendingSize == 0) {
-        pending = nullptr;
-    }
+    pendingAt += n;
 }
 
-bool Detail::LogReaderState::handleFrame(std::size_t size, LogMessage& message) {
-    const std::uint8_t* frame = buffer.data() + begin;
-    frameOffset = base + begin;
-    begin += size;
+// The fed span is read: it goes back to the caller, and what is held is all older.
+void Detail::LogReaderState::releasePending() noexcept {
+    pending = nullptr;
+    pendingSize = pendingAt = 0;
+    held = end;
+}
+
+bool Detail::LogReaderState::handleFrame(const std::uint8_t* frame, std::size_t size,
+                                         LogMessage& message) {
     if (protocol == LogProtocol::Ubx) {
         ++stats.ubxFrames;
         return handleUbx(frame, size, message);
@@ -719,6 +715,9 @@ void LogReader::feed(std::span<const std::uint8_t> bytes) {
     }
     s.pending = bytes.data();
     s.pendingSize = bytes.size();
+    s.pendingAt = 0;
+    s.pendingBase = s.stats.bytes;
+    s.stats.bytes += bytes.size();
 }
 
 void LogReader::feed(std::string_view bytes) {
@@ -733,29 +732,44 @@ void LogReader::finish() {
 bool LogReader::next(LogMessage& message) {
     Detail::LogReaderState& s = *state_;
     for (;;) {
-        std::size_t frameSize = 0;
-        if (s.scan(frameSize) == Detail::LogReaderState::Scan::Frame) {
-            if (s.handleFrame(frameSize, message)) {
-                return true;
-            }
+        if (s.end != 0 && s.begin >= s.held) {
+            // Whatever is left of the held bytes was copied from the fed span: go on there.
+            s.pendingAt = s.begin - s.held;
+            s.begin = s.end = s.held = 0;
+        }
+        const bool holding = s.end != 0;
+        const std::uint8_t* const data = holding ? s.buffer.data() : s.pending;
+        std::size_t& at = holding ? s.begin : s.pendingAt;
+        const std::size_t stop = holding ? s.end : s.pendingSize;
+        std::size_t needed = 0;
+        if (s.read(data, at, stop, holding ? s.base : s.pendingBase, needed, message) ==
+            Detail::LogReaderState::Read::Message) {
+            return true;
+        }
+        if (holding && s.begin >= s.held) {
             continue;
         }
-        if (s.pendingSize != 0) {
-            s.refill();
+        if (holding && s.pendingAt < s.pendingSize) {
+            s.topUp(needed);
             continue;
         }
         if (!s.finished) {
+            if (!holding && at < stop) {
+                s.holdRest();
+            }
+            s.releasePending();
             return false;
         }
-        // End of the stream: a sync pair left at `begin` starts a frame that was cut.
-        if (s.end - s.begin >= 2) {
+        // End of the stream: a sync pair left at `at` starts a frame that was cut.
+        if (stop - at >= 2) {
             ++s.stats.truncatedFrames;
             ++s.stats.skippedBytes;
-            ++s.begin;
+            ++at;
             continue;
         }
-        s.stats.skippedBytes += s.end - s.begin;
-        s.begin = s.end;
+        s.stats.skippedBytes += stop - at;
+        s.begin = s.end = s.held = 0;
+        s.releasePending();
         if (!s.flushedB1c) {
             s.flushedB1c = true;
             for (B1cSatellite& sat : s.b1c) {

@@ -1,6 +1,9 @@
 #include <algorithm>
+#include <array>
 #include <cstring>
+#include <span>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 
 #include "api/HexInput.h"
@@ -8,8 +11,8 @@
 #include "legacy/BeidouD1Interface.h"
 #include "legacy/BeidouD2Interface.h"
 #include "legacy/GpsL1caInterface.h"
-#include "legacy/ListingPlan.h"
 #include "legacy/QzssL1caInterface.h"
+#include "legacy/SubframeCoder.h"
 #include "schemas/beidou_cnav1/FrameDef.h"
 #include "schemas/beidou_cnav2/FrameDef.h"
 #include "schemas/gps_cnav2/FrameDef.h"
@@ -22,13 +25,68 @@ namespace {
 
 using Legacy::SubframeFieldInfo;
 
+using Legacy::SubframeCoder;
+
+constexpr std::int32_t kWords = 10;
+constexpr std::int32_t kWordBits = SubframeCoder::kWordBits;
+
+// A table entry as pieces of decoded words: each of its segments, split where it
+// crosses from one word into the next, most significant first.
+struct EntryInWords {
+    struct Piece {
+        std::uint8_t word = 0;
+        std::uint8_t shift = 0;  // of the piece's last bit above the word's bit 0
+        std::uint8_t length = 0;
+    };
+    static constexpr auto kMaxPieces =
+        2 * static_cast<std::size_t>(SubframeFieldInfo::kMaxSegments);
+
+    std::array<Piece, kMaxPieces> pieces{};
+    std::size_t count = 0;
+    bool present = false;
+};
+
+// Numbering entries lie in the ten words and are at most 32 bits wide; a table that
+// breaks this stops the first reading with an error rather than read it wrong.
+EntryInWords inWords(const SubframeFieldInfo& entry) {
+    EntryInWords reading;
+    reading.present = true;
+    std::int32_t width = 0;
+    for (std::int32_t s = 0; s < entry.segmentCount && s < SubframeFieldInfo::kMaxSegments; ++s) {
+        std::int32_t index = entry.segmentStart[s] - 1;
+        std::int32_t length = entry.segmentLength[s];
+        if (length <= 0) {
+            continue;
+        }
+        width += length;
+        if (index < 0 || index + length > kWords * kWordBits || width > 32) {
+            throw std::logic_error(std::string("MessageNumbering: entry ") + entry.name +
+                                   " does not lie in the ten words");
+        }
+        while (length > 0) {
+            if (reading.count == EntryInWords::kMaxPieces) {
+                throw std::logic_error(std::string("MessageNumbering: entry ") + entry.name +
+                                       " has too many pieces");
+            }
+            const std::int32_t offset = index % kWordBits;
+            const std::int32_t n = std::min(length, kWordBits - offset);
+            reading.pieces[reading.count++] = {static_cast<std::uint8_t>(index / kWordBits),
+                                               static_cast<std::uint8_t>(kWordBits - offset - n),
+                                               static_cast<std::uint8_t>(n)};
+            index += n;
+            length -= n;
+        }
+    }
+    return reading;
+}
+
 // The entries of a legacy table that number a subframe: its subframe number field,
 // the LNAV TOW count, and the page number field of each subframe that has one.
 struct LegacyNumbering {
     const Legacy::SubframeIf* signal = nullptr;
-    const SubframeFieldInfo* subframeField = nullptr;
-    const SubframeFieldInfo* towField = nullptr;
-    std::array<const SubframeFieldInfo*, 8> pageFields{};
+    EntryInWords subframe;
+    EntryInWords tow;
+    std::array<EntryInWords, 8> pages{};
 };
 
 LegacyNumbering findEntries(const Legacy::SubframeIf& signal, std::string_view subframeName,
@@ -37,40 +95,78 @@ LegacyNumbering findEntries(const Legacy::SubframeIf& signal, std::string_view s
     numbering.signal = &signal;
     for (const SubframeFieldInfo& entry : signal.fields()) {
         const std::string_view name = entry.name;
-        if (name == subframeName && numbering.subframeField == nullptr) {
-            numbering.subframeField = &entry;
-        } else if (!towName.empty() && name == towName && numbering.towField == nullptr) {
-            numbering.towField = &entry;
+        if (name == subframeName && !numbering.subframe.present) {
+            numbering.subframe = inWords(entry);
+        } else if (!towName.empty() && name == towName && !numbering.tow.present) {
+            numbering.tow = inWords(entry);
         } else if (!pageName.empty() && name == pageName && entry.subframe > 0 &&
-                   static_cast<std::size_t>(entry.subframe) < numbering.pageFields.size() &&
-                   numbering.pageFields[static_cast<std::size_t>(entry.subframe)] == nullptr) {
-            numbering.pageFields[static_cast<std::size_t>(entry.subframe)] = &entry;
+                   static_cast<std::size_t>(entry.subframe) < numbering.pages.size() &&
+                   !numbering.pages[static_cast<std::size_t>(entry.subframe)].present) {
+            numbering.pages[static_cast<std::size_t>(entry.subframe)] = inWords(entry);
         }
     }
-    if (numbering.subframeField == nullptr || (!towName.empty() && numbering.towField == nullptr)) {
+    if (!numbering.subframe.present || (!towName.empty() && !numbering.tow.present)) {
         throw std::logic_error("MessageNumbering: a subframe numbering entry is missing");
     }
     return numbering;
 }
 
 const LegacyNumbering& legacyNumbering(MessageFormat format) {
-    static const LegacyNumbering gps =
-        findEntries(Legacy::GPS_L1CA_Interface, "subframe_id", "tow_count", "");
-    static const LegacyNumbering qzss =
-        findEntries(Legacy::QZSS_L1CA_Interface, "subframe_id", "tow_count", "");
-    static const LegacyNumbering d1 = findEntries(Legacy::BEIDOU_D1_Interface, "fraid", "", "pnum");
-    static const LegacyNumbering d2 = findEntries(Legacy::BEIDOU_D2_Interface, "fraid", "", "pnum");
+    static const std::array<LegacyNumbering, 4> kNumberings{
+        findEntries(Legacy::GPS_L1CA_Interface, "subframe_id", "tow_count", ""),
+        findEntries(Legacy::QZSS_L1CA_Interface, "subframe_id", "tow_count", ""),
+        findEntries(Legacy::BEIDOU_D1_Interface, "fraid", "", "pnum"),
+        findEntries(Legacy::BEIDOU_D2_Interface, "fraid", "", "pnum")};
     switch (format) {
         case MessageFormat::GpsLNav:
-            return gps;
+            return kNumberings[0];
         case MessageFormat::QzssLNav:
-            return qzss;
+            return kNumberings[1];
         case MessageFormat::BeidouD1:
-            return d1;
+            return kNumberings[2];
         default:
-            return d2;
+            return kNumberings[3];
     }
 }
+
+// The words of a received subframe as the coder decodes them (LNAV data-bit inversion,
+// BeiDou BCH and interleaving stripped), each decoded when an entry first needs it.
+class DecodedWords {
+  public:
+    DecodedWords(const SubframeCoder& coder, std::span<const std::uint8_t> bytes) : coder_(coder) {
+        received_.bitCount = kWords * kWordBits;
+        if (bytes.size() >= sizeof received_.data) {
+            std::memcpy(received_.data, bytes.data(), sizeof received_.data);
+        } else if (!bytes.empty()) {
+            std::memcpy(received_.data, bytes.data(), bytes.size());
+        }
+    }
+
+    // The entry's value: its pieces joined, most significant first.
+    std::uint32_t read(const EntryInWords& entry) {
+        std::uint32_t value = 0;
+        for (std::size_t i = 0; i < entry.count; ++i) {
+            const EntryInWords::Piece piece = entry.pieces[i];
+            value = (value << piece.length) |
+                    ((word(piece.word) >> piece.shift) & ((1U << piece.length) - 1U));
+        }
+        return value;
+    }
+
+  private:
+    std::uint32_t word(std::int32_t w) {
+        if ((decoded_ & (1U << w)) == 0) {
+            decoded_ |= 1U << w;
+            words_[static_cast<std::size_t>(w)] = coder_.DecodedWord(received_, w);
+        }
+        return words_[static_cast<std::size_t>(w)];
+    }
+
+    const SubframeCoder& coder_;
+    Legacy::subframe_t received_;
+    std::array<std::uint32_t, kWords> words_{};
+    std::uint32_t decoded_ = 0;  // bit w: words_[w] is decoded
+};
 
 // LNAV subframes 4 and 5 cycle through 25 pages of 30 s from the start of the week;
 // the TOW count is that of the next subframe, so this one began 6 s earlier.
@@ -80,30 +176,21 @@ std::int32_t lnavPage(std::uint32_t towCount) {
     return static_cast<std::int32_t>((start / 30) % 25 + 1);
 }
 
+// From the table entries and the coder's word decoding, the words they lie in only.
 SubframeAndPage legacyNumbers(MessageFormat format, std::span<const std::uint8_t> bytes) {
     const LegacyNumbering& numbering = legacyNumbering(format);
-    // The coder strips the word protection (LNAV data-bit inversion, BeiDou BCH and
-    // interleaving) in place; the table positions are those of the stripped words.
-    Legacy::subframe_t sf;
-    sf.bitCount = 300;
-    std::memcpy(sf.data, bytes.data(), std::min(bytes.size(), sizeof sf.data));
-    numbering.signal->GetCoder().Decode(sf);
-    std::uint8_t padded[Legacy::kPaddedDataBytes] = {};
-    std::memcpy(padded, sf.data, sizeof sf.data);
-
+    DecodedWords words(numbering.signal->GetCoder(), bytes);
     SubframeAndPage numbers;
-    numbers.subframe =
-        static_cast<std::int32_t>(Legacy::extractField(*numbering.subframeField, padded).value);
-    if (numbering.towField != nullptr) {
+    numbers.subframe = static_cast<std::int32_t>(words.read(numbering.subframe));
+    if (numbering.tow.present) {
         if (numbers.subframe == 4 || numbers.subframe == 5) {
-            numbers.page = lnavPage(Legacy::extractField(*numbering.towField, padded).value);
+            numbers.page = lnavPage(words.read(numbering.tow));
         }
     } else if (numbers.subframe > 0 &&
-               static_cast<std::size_t>(numbers.subframe) < numbering.pageFields.size()) {
-        const SubframeFieldInfo* page =
-            numbering.pageFields[static_cast<std::size_t>(numbers.subframe)];
-        if (page != nullptr) {
-            numbers.page = static_cast<std::int32_t>(Legacy::extractField(*page, padded).value);
+               static_cast<std::size_t>(numbers.subframe) < numbering.pages.size()) {
+        const EntryInWords& page = numbering.pages[static_cast<std::size_t>(numbers.subframe)];
+        if (page.present) {
+            numbers.page = static_cast<std::int32_t>(words.read(page));
         }
     }
     return numbers;

@@ -116,6 +116,16 @@ TEST(LogStream, GarbageBetweenFramesIsSkipped) {
         std::vector<ReadMessage> expected = whole.messages;
         expected.insert(expected.end(), whole.messages.begin(), whole.messages.end());
         expectSameMessages(read.messages, expected);
+        // In pieces, the frames that a failed one hid are found again where it was held.
+        for (const std::size_t chunk : {7U, 1000U, 70000U}) {
+            std::vector<std::size_t> cuts;
+            for (std::size_t at = chunk; at < mixed.size(); at += chunk) {
+                cuts.push_back(at);
+            }
+            const ReadLog pieces = readLog(mixed, cuts);
+            EXPECT_TRUE(pieces.messages == read.messages) << file << " in chunks of " << chunk;
+            EXPECT_TRUE(pieces.stats == read.stats) << file << " in chunks of " << chunk;
+        }
         // The long frame fails its checksum, or is cut by the end of the stream.
         const bool cut = mixed.size() - longFrame < LogReader::kMaxFrameBytes;
         const std::uint64_t garbage = whole.messages.size();

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <stdexcept>
 
+#include "legacy/BeidouD1Interface.h"
+#include "legacy/GpsL1caInterface.h"
 #include "support/RealData.h"
 
 namespace ZeltNavMsg::Testing {
@@ -51,6 +54,32 @@ TEST(MessageNumbering, RefusesWhatDecodeRefuses) {
 TEST(MessageNumbering, MissingBitsReadAsZero) {
     EXPECT_EQ(MessageNumbering::GetSubframeAndPage(MessageFormat::GpsLNav, "8b").subframe, 0);
     EXPECT_EQ(MessageNumbering::GetSubframeAndPage(MessageFormat::BeidouCNav2, "b5e").page, 30);
+}
+
+// The numbering decodes only the words its entries lie in: each word, decoded alone,
+// is what the coder's whole-subframe decode leaves there (BeiDou corrections included).
+TEST(MessageNumbering, WordDecodedAloneAsInTheWholeSubframe) {
+    using Legacy::SubframeCoder;
+    std::mt19937 random(13);
+    for (const Legacy::SubframeIf* signal :
+         {static_cast<const Legacy::SubframeIf*>(&Legacy::GPS_L1CA_Interface),
+          static_cast<const Legacy::SubframeIf*>(&Legacy::BEIDOU_D1_Interface)}) {
+        const SubframeCoder& coder = signal->GetCoder();
+        for (int trial = 0; trial < 200; ++trial) {
+            Legacy::subframe_t received;
+            received.bitCount = 300;
+            for (std::uint8_t& byte : received.data) {
+                byte = static_cast<std::uint8_t>(random());
+            }
+            Legacy::subframe_t decoded = received;
+            (void)coder.Decode(decoded);
+            for (std::int32_t w = 0; w < 10; ++w) {
+                ASSERT_EQ(coder.DecodedWord(received, w),
+                          SubframeCoder::ReadWord(decoded, SubframeCoder::kWordBits * w + 1))
+                    << "word " << w;
+            }
+        }
+    }
 }
 
 }  // namespace
