@@ -24,14 +24,29 @@ using ZeltNavMsg::MessageFormat;
 
 namespace {
 
-// "week 2408 tow 588794.5", or "no time" where the log has no time tag yet.
-std::string timeText(const LogMessage& m) {
-    if (!m.hasTime) {
-        return "no time";
+// The header line of a message in text output, written piece by piece:
+// "# week 2408 tow 588794.5: G05 L1CA GpsLNav subframe 1 page 0" ("no time" where the
+// log has no time tag yet).
+void writeHeader(Output& out, const LogMessage& m, std::string_view formatName) {
+    if (m.hasTime) {
+        char tow[32];
+        const auto end = std::to_chars(tow, tow + sizeof tow, m.secondsOfWeek).ptr;
+        out.put("# week ");
+        out.putNumber(m.week);
+        out.put(" tow ");
+        out.put(std::string_view(tow, static_cast<std::size_t>(end - tow)));
+    } else {
+        out.put("# no time");
     }
-    char tow[32];
-    const auto end = std::to_chars(tow, tow + sizeof tow, m.secondsOfWeek).ptr;
-    return "week " + std::to_string(m.week) + " tow " + std::string(tow, end);
+    for (const std::string_view piece :
+         {std::string_view(": "), m.satellite, std::string_view(" "), m.signalName,
+          std::string_view(" "), formatName, std::string_view(" subframe ")}) {
+        out.put(piece);
+    }
+    out.putNumber(m.subframe);
+    out.put(" page ");
+    out.putNumber(m.page);
+    out.lineEnd();
 }
 
 // Which messages are wanted: a format (any of its names) and a satellite or system.
@@ -74,9 +89,20 @@ class Filter {
 
 // Messages per format and per system of one log, for the summary.
 struct LogCounts {
-    std::map<std::string_view, long> formats;
-    std::map<std::string_view, long> systems;
+    static constexpr std::size_t kFormats = 13;  // the MessageFormat values
+    std::array<long, kFormats> formats{};
+    std::array<long, 128> systems{};  // by the satellite name's first letter
     long messages = 0;
+
+    void add(const LogMessage& m) {
+        ++messages;
+        const auto format = static_cast<std::size_t>(m.format);
+        if (format < kFormats) {
+            ++formats[format];
+        }
+        const auto letter = static_cast<unsigned char>(m.satellite.empty() ? 0 : m.satellite[0]);
+        ++systems[letter & 0x7FU];
+    }
 };
 
 void reportLog(Diagnostics& diagnostics, const std::string& name, const LogCounts& counts,
@@ -91,9 +117,22 @@ void reportLog(Diagnostics& diagnostics, const std::string& name, const LogCount
         }
         return text.empty() ? std::string("none") : text;
     };
+    std::map<std::string_view, long> formats;
+    for (std::size_t f = 0; f < counts.formats.size(); ++f) {
+        if (counts.formats[f] != 0) {
+            formats[ZeltNavMsg::MessageFormatName(static_cast<MessageFormat>(f))] =
+                counts.formats[f];
+        }
+    }
+    std::map<std::string_view, long> systems;
+    for (std::size_t c = 0; c < counts.systems.size(); ++c) {
+        if (counts.systems[c] != 0) {
+            systems[systemName(static_cast<char>(c))] = counts.systems[c];
+        }
+    }
     diagnostics.report(
-        {}, name + ": " + std::to_string(counts.messages) + " messages: " + list(counts.formats));
-    diagnostics.report({}, "  by system: " + list(counts.systems));
+        {}, name + ": " + std::to_string(counts.messages) + " messages: " + list(formats));
+    diagnostics.report({}, "  by system: " + list(systems));
     std::string skipped;
     const auto add = [&](std::uint64_t n, std::string_view what) {
         if (n != 0) {
@@ -177,9 +216,7 @@ int LogCommand::run(Output& out) const {
                 }
                 ++number;
                 const std::string_view formatName = ZeltNavMsg::MessageFormatName(m.format);
-                ++counts.messages;
-                ++counts.formats[formatName];
-                ++counts.systems[systemName(m.satellite.empty() ? '\0' : m.satellite.front())];
+                counts.add(m);
                 if (extract_) {
                     out.put(m.satellite);
                     out.put(" ");
@@ -203,11 +240,8 @@ int LogCommand::run(Output& out) const {
                     if (!ok) {
                         continue;
                     }
-                    const std::string header =
-                        "# " + timeText(m) + ": " + std::string(m.satellite) + " " +
-                        std::string(m.signalName) + " " + std::string(formatName) + " subframe " +
-                        std::to_string(m.subframe) + " page " + std::to_string(m.page);
-                    writeMessage(out, options_, message, number, true, decoded, header);
+                    writeHeader(out, m, formatName);
+                    writeMessage(out, options_, message, number, true, decoded, {});
                     out.lineEnd();
                     continue;
                 }
