@@ -51,15 +51,15 @@ def log_rows(paths, folder):
 def csv_chunks(rows):
     """The rows of one partition as CSV text per format: [(format, text, rows, messages)].
     Made in the worker, so the client only appends text to files."""
-    texts, counts, messages = {}, {}, {}
+    tables = {}
     for row in rows:
-        fmt = row[3]
-        if fmt not in texts:
-            texts[fmt], counts[fmt], messages[fmt] = io.StringIO(), 0, set()
-        csv.writer(texts[fmt], lineterminator="\n").writerow(row)
-        counts[fmt] += 1
-        messages[fmt].add(row[:2])
-    return [(fmt, text.getvalue(), counts[fmt], len(messages[fmt])) for fmt, text in texts.items()]
+        tables.setdefault(row[3], []).append(row)
+    chunks = []
+    for fmt, table in tables.items():
+        text = io.StringIO()
+        csv.writer(text, lineterminator="\n").writerows(table)
+        chunks.append((fmt, text.getvalue(), len(table), len({row[:2] for row in table})))
+    return chunks
 
 
 def archive(folder, pattern="*"):

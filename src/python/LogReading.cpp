@@ -248,7 +248,11 @@ class LogIterator {
                 throw py::type_error("read_log needs a binary file: its read() gave " +
                                      std::string(typeName(data)) + ", not bytes");
             }
-            data = py::bytes(data);  // a copy the caller cannot change under the reader
+            // A copy the caller cannot change under the reader.
+            data = py::reinterpret_steal<py::object>(PyBytes_FromObject(data.ptr()));
+            if (!data) {
+                throw py::error_already_set();
+            }
         }
         const auto size = static_cast<std::size_t>(PyBytes_GET_SIZE(data.ptr()));
         if (size == 0) {
