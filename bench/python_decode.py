@@ -11,6 +11,10 @@ caller sees; CPU time, of the calling threads, varies less with other load.
 
 decode_fields() makes its Field objects on first use; "+ fields" also reads every
 field's value (making all its Field objects), "+ to_dict" the record as a dict.
+
+Then read_log() over the three public receiver logs (tests/data/receiver-logs) in
+memory: the time per message yielded (the log scanned and each message decoded), and
+with to_dataframe() of the messages.
 """
 
 import pathlib
@@ -23,7 +27,6 @@ ROOT = pathlib.Path(__file__).resolve().parents[1]
 build = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else ROOT / "build/release")
 sys.path.insert(0, str(build.resolve() / "python"))
 import zeltnavmsg  # noqa: E402
-
 
 
 def subframes():
@@ -56,6 +59,31 @@ def per_call(function, jobs, passes, threads):
         return statistics.median(w for w, _ in runs), statistics.median(c for _, c in runs)
 
 
+def log_figures():
+    logs = [p.read_bytes() for p in sorted((ROOT / "tests/data/receiver-logs").iterdir())
+            if p.suffix in (".ubx", ".log")]
+    count = sum(1 for data in logs for _ in zeltnavmsg.read_log(data))
+    runs = [("read_log", lambda data: list(zeltnavmsg.read_log(data)))]
+    try:
+        import pandas  # noqa: F401
+        runs.append(("+ to_dataframe",
+                     lambda data: zeltnavmsg.to_dataframe(zeltnavmsg.read_log(data))))
+    except ImportError:
+        pass
+    for name, function in runs:
+        times = []
+        for _ in range(7):
+            wall, cpu = time.perf_counter(), time.thread_time()
+            for _ in range(20):
+                for data in logs:
+                    function(data)
+            times.append(((time.perf_counter() - wall) / (20 * count),
+                          (time.thread_time() - cpu) / (20 * count)))
+        wall, cpu = statistics.median(w for w, _ in times), statistics.median(c for _, c in times)
+        print(f"{name:14} {count} messages of 3 logs  {wall * 1e6:6.2f} us per message (wall), "
+              f"{cpu * 1e6:6.2f} us CPU, {1 / wall / 1e3:.0f} k messages/s")
+
+
 def main():
     jobs = subframes()
     print(f"{len(jobs)} real GPS LNAV subframes, zeltnavmsg {zeltnavmsg.__version__}, "
@@ -70,6 +98,8 @@ def main():
             print(f"{name:14} {threads} thread{'s' if threads > 1 else ' '}  "
                   f"{wall * 1e9:6.0f} ns per call (wall), {cpu * 1e9:6.0f} ns CPU, "
                   f"{1 / wall / 1e6:.3f} M calls/s")
+    log_figures()
+
 
 if __name__ == "__main__":
     main()

@@ -1,6 +1,7 @@
 // The compiled part of the zeltnavmsg package: the listing, the name look-ups, the
 // table of systems, signals and formats, the enumerations and the library's error. Each
-// further feature binds itself from a source of its own (Records.cpp: decode_fields).
+// further feature binds itself from a source of its own (Records.cpp: decode_fields;
+// LogReading.cpp: read_log; Encoding.cpp: MessageEncoder).
 
 #include <pybind11/pybind11.h>
 
@@ -10,6 +11,8 @@
 
 #include "api/FormatNames.h"
 #include "python/Arguments.h"
+#include "python/Encoding.h"
+#include "python/LogReading.h"
 #include "python/Records.h"
 #include "zeltnavmsg/NavMessageDecoder.h"
 
@@ -125,4 +128,6 @@ PYBIND11_MODULE(_zeltnavmsg, m) {
         "_formats() -> list\n\nThe rows zeltnavmsg.formats() is made of.");
 
     ZeltNavMsg::Python::bindRecords(m, enums);
+    ZeltNavMsg::Python::bindLogReading(m, enums);
+    ZeltNavMsg::Python::bindEncoding(m, enums);
 }

@@ -1,7 +1,7 @@
 // decode_fields(): every field of a message as Python objects. A Message keeps the C++
-// record and what the caller said of its origin (satellite, input line); its field and
-// check objects are made on first use, so a caller that wants only to_dict(), the
-// verdict or a field by name pays for that alone.
+// record and what is known of its origin (satellite, input line, a log's signal and
+// time); its field and check objects are made on first use, so a caller that wants only
+// to_dict(), the verdict or a field by name pays for that alone.
 
 #include "python/Records.h"
 
@@ -20,26 +20,6 @@
 namespace ZeltNavMsg::Python {
 
 namespace {
-
-struct MessageObject {
-    DecodedMessage message;
-    std::string sat;        // Latin-1, as the library writes text; "" for none
-    std::int64_t line = 0;  // 0 for none
-    RecordOptions options;
-    py::object fields;  // tuple of Field, made on first use
-    py::object checks;  // tuple of Check, made on first use
-
-    [[nodiscard]] RecordContext context() const {
-        RecordContext c;
-        c.line = line;
-        c.sat = sat;
-        return c;
-    }
-    // What navmsg --output json|csv writes: data fields, or all with --all-fields.
-    [[nodiscard]] bool shown(const DecodedField& field) const {
-        return options.allFields || field.role() == FieldRole::Data;
-    }
-};
 
 std::string_view kindName(ValueKind kind) {
     switch (kind) {
@@ -136,8 +116,9 @@ py::object correctedBit(const CheckResult& check) {
 
 MessageObject& messageOf(py::handle object) {
     if (!py::isinstance<MessageObject>(object)) {
-        throw py::type_error("to_dataframe takes Message objects (from decode_fields), not " +
-                             std::string(py::str(py::type::handle_of(object).attr("__name__"))));
+        throw py::type_error(
+            "to_dataframe takes Message objects (from decode_fields or read_log), not " +
+            std::string(py::str(py::type::handle_of(object).attr("__name__"))));
     }
     return object.cast<MessageObject&>();
 }
@@ -167,19 +148,28 @@ const py::object& checkTuple(MessageObject& o) {
     return o.checks;
 }
 
-// The rows of to_dataframe(): one list per CSV column, one item per field shown.
+// The rows of to_dataframe(): one list per CSV column, one item per field shown. The
+// columns of a receiver log (signal, week, tow) follow when a message comes from one,
+// as navmsg log adds them to its CSV.
 py::tuple fieldColumns(py::handle messages, const Enumerations& enums) {
     py::list line, sat, format, subframe, page, path, name, value, units, raw, ok;
+    py::list signal, week, tow;
+    bool log = false;
     for (py::handle item : py::iter(messages)) {
         const MessageObject& o = messageOf(item);
+        log = log || !o.signal.empty();
         // The message's own cells, once for all its rows.
+        const py::object none = py::none();
         const py::object cells[] = {
-            o.line > 0 ? py::object(py::int_(o.line)) : py::object(py::none()),
+            o.line > 0 ? py::object(py::int_(o.line)) : none,
             latin1Text(o.sat),
             enums.member(o.message.format()).attr("name"),
             py::int_(o.message.subframe()),
             py::int_(o.message.page()),
-            py::bool_(o.message.ok())};
+            py::bool_(o.message.ok()),
+            o.signal.empty() ? none : py::str(o.signal.data(), o.signal.size()),
+            o.hasTime ? py::object(py::int_(o.week)) : none,
+            o.hasTime ? py::object(py::float_(o.tow)) : none};
         for (const DecodedField& field : o.message.fields()) {
             if (!o.shown(field)) {
                 continue;
@@ -196,7 +186,14 @@ py::tuple fieldColumns(py::handle messages, const Enumerations& enums) {
             units.append(py::str(field.units().data(), field.units().size()));
             raw.append(rawHex(field));
             ok.append(cells[5]);
+            signal.append(cells[6]);
+            week.append(cells[7]);
+            tow.append(cells[8]);
         }
+    }
+    if (log) {
+        return py::make_tuple(line, sat, format, subframe, page, path, name, value, units, raw, ok,
+                              signal, week, tow);
     }
     return py::make_tuple(line, sat, format, subframe, page, path, name, value, units, raw, ok);
 }

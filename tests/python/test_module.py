@@ -9,7 +9,7 @@ from concurrent.futures import ThreadPoolExecutor
 import pytest
 
 import zeltnavmsg
-from zeltnavmsg import DecodingError, MessageFormat, SignalType
+from zeltnavmsg import DecodingError, EncodingError, MessageFormat, SignalType
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 LNAV = "8b0d3487fffd614d351000091b1de78f322ebaf701369182b0dd6d7f8f6800ffd153eafc2f0"
@@ -108,10 +108,11 @@ def test_stubs_declare_what_the_module_has():
 
 
 def test_enumerations_and_errors_pickle_by_the_package_name():
-    for value in (MessageFormat.Irnss, SignalType.SbasL5, DecodingError("bad digit")):
+    for value in (MessageFormat.Irnss, SignalType.SbasL5, DecodingError("bad digit"),
+                  EncodingError("toe: out of range")):
         copy = pickle.loads(pickle.dumps(value))
         assert (type(copy), str(copy)) == (type(value), str(value))
-    assert issubclass(DecodingError, ValueError)
+    assert issubclass(DecodingError, ValueError) and issubclass(EncodingError, DecodingError)
 
 
 def records(*job):

@@ -6,10 +6,14 @@
     m = zeltnavmsg.decode_fields("GpsLNav", 1, 0, hex)
     print(m.layout, m["af0"].value, m.ok)           # the fields as data, and the parity
     zeltnavmsg.message_format("C30", "CNAV2")       # MessageFormat.BeidouCNav2
+    for m in zeltnavmsg.read_log("receiver.ubx"):   # a receiver log's messages, decoded
+        print(m.time, m.sat, m.signal_name, m.layout)
+    zeltnavmsg.encode("GpsLNav", 2, 0, set={"preamble": 139, "toe": 352800})  # hex
 
 Every function that takes a format accepts a MessageFormat member or its name
 ("GpsLNav"). The library's refusals raise DecodingError, a ValueError; an empty
-hex text raises IndexError. Decoding releases the interpreter lock, so threads
+hex text raises IndexError; a field the encoder cannot set raises EncodingError, a
+DecodingError. Decoding and reading logs release the interpreter lock, so threads
 decode in parallel. to_dataframe() makes a pandas table of decoded messages, where
 pandas is installed.
 """
@@ -18,11 +22,16 @@ from typing import NamedTuple
 
 from . import _zeltnavmsg
 from ._dataframe import to_dataframe
+from ._encoding import encode
 from ._zeltnavmsg import (
     Check,
     DecodingError,
+    EncodingError,
     Field,
+    LogMessage,
+    LogReader,
     Message,
+    MessageEncoder,
     MessageFormat,
     SignalType,
     __version__,
@@ -30,6 +39,7 @@ from ._zeltnavmsg import (
     decode_fields,
     default_format,
     message_format,
+    read_log,
     signal_type,
 )
 
@@ -73,9 +83,13 @@ def formats() -> list[System]:
 __all__ = [
     "Check",
     "DecodingError",
+    "EncodingError",
     "Field",
     "Format",
+    "LogMessage",
+    "LogReader",
     "Message",
+    "MessageEncoder",
     "MessageFormat",
     "Signal",
     "SignalType",
@@ -83,8 +97,10 @@ __all__ = [
     "decode",
     "decode_fields",
     "default_format",
+    "encode",
     "formats",
     "message_format",
+    "read_log",
     "signal_type",
     "to_dataframe",
 ]
