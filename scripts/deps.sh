@@ -4,9 +4,11 @@
 set -euo pipefail
 
 # The build and its tests (nlohmann-json reads the JSON records back); python3-dev,
-# pybind11-dev and python3-pytest for the Python module.
+# pybind11-dev, python3-pytest and python3-pandas (to_dataframe) for the Python module,
+# python3-dask and python3-distributed for its archive example and its test.
 packages=(cmake ninja-build g++ libgtest-dev libcli11-dev
-          python3 python3-dev pybind11-dev python3-pytest nlohmann-json3-dev "$@")
+          python3 python3-dev pybind11-dev python3-pytest python3-pandas python3-dask
+          python3-distributed nlohmann-json3-dev "$@")
 
 missing=()
 for p in "${packages[@]}"; do

@@ -7,6 +7,7 @@
 #include "FormatLookup.h"
 #include "LineReader.h"
 #include "Output.h"
+#include "zeltnavmsg/SubframeAndPage.h"
 
 namespace Navmsg {
 
@@ -16,8 +17,10 @@ DecodeCommand::DecodeCommand(CLI::App& app)
     command_->add_option("--format", format_,
                          "Message format, e.g. LNAV, CNAV2, D1, or a MessageFormat name such as "
                          "GpsCNav2 (default: the system's default)");
-    command_->add_option("--subframe", subframe_, "Subframe number (default 0)");
-    command_->add_option("--page", page_, "Page number (default 0)");
+    command_->add_option("--subframe", subframe_,
+                         "Subframe number (default: the one the message's bits carry)");
+    command_->add_option("--page", page_,
+                         "Page number (default: the one the message's bits carry)");
     addMessageOptions(*command_, options_);
     command_
         ->add_option("HEX", hex_, "Message bits as hex; - reads one message per line from stdin")
@@ -49,8 +52,22 @@ int DecodeCommand::run(Output& out) const {
     CheckSummary summary;
     bool first = true;
     Decoded decoded;
+    // What is not given is read from each message's bits: the HOW's subframe ID and the
+    // page of its TOW count (LNAV), FraID and Pnum (BeiDou), page or message type.
+    const bool subframeGiven = command_->count("--subframe") > 0;
+    const bool pageGiven = command_->count("--page") > 0;
     const auto decodeOne = [&](std::string_view hex, Place place) {
-        const Message message{sat_, formatName, format, subframe_, page_, hex};
+        Message message{sat_, formatName, format, subframe_, page_, hex};
+        if (!subframeGiven || !pageGiven) {
+            try {
+                const ZeltNavMsg::SubframeAndPage read =
+                    ZeltNavMsg::MessageNumbering::GetSubframeAndPage(format, hex);
+                message.subframe = subframeGiven ? subframe_ : read.subframe;
+                message.page = pageGiven ? page_ : read.page;
+            } catch (const std::exception&) {
+                // Bits that cannot be read: the decode reports why.
+            }
+        }
         const bool ok = decodeMessage(message, place, options_, diagnostics, decoded);
         if (ok && options_.check) {
             summary.add(decoded.records);

@@ -121,7 +121,9 @@ void Diagnostics::report(Place place, std::string_view message) {
     }
     std::string line = "navmsg: ";
     if (place.kind != Place::Kind::None) {
-        line.append(place.kind == Place::Kind::Line ? "line " : "argument ");
+        line.append(place.kind == Place::Kind::Line       ? "line "
+                    : place.kind == Place::Kind::Argument ? "argument "
+                                                          : "message ");
         line.append(std::to_string(place.number));
     }
     if (place.digit != 0) {

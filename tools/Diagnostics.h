@@ -12,13 +12,14 @@ class Output;
 // Where a report points: "line 4" of the input, "argument 2" of the command line,
 // optionally ", digit 17" of that message's hex text; or nowhere in particular.
 struct Place {
-    enum class Kind { None, Line, Argument };
+    enum class Kind { None, Line, Argument, Message };
     Kind kind = Kind::None;
     long number = 0;
     long digit = 0;  // 0: the message as a whole
 
     static Place line(long n) { return {Kind::Line, n, 0}; }
     static Place argument(long n) { return {Kind::Argument, n, 0}; }
+    static Place message(long n) { return {Kind::Message, n, 0}; }  // of a receiver log
     [[nodiscard]] Place atDigit(long d) const { return {kind, number, d}; }
 };
 

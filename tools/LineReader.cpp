@@ -1,58 +1,18 @@
 #include "LineReader.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <cerrno>
 #include <cstring>
-
-#include "ExitStatus.h"
 
 namespace Navmsg {
 
-namespace {
+LineReader::LineReader(const std::string& path) : input_(path) {}
 
-[[noreturn]] void throwCannotRead(const std::string& name, int error) {
-    throw UsageError{"cannot read " + name + ": " + std::strerror(error)};
-}
-
-}  // namespace
-
-LineReader::LineReader(const std::string& path) {
-    if (path == "-") {
-        fd_ = STDIN_FILENO;
-        name_ = "standard input";
-        return;
-    }
-    name_ = path;
-    fd_ = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (fd_ < 0) {
-        throwCannotRead(name_, errno);
-    }
-    owned_ = true;
-}
-
-LineReader::~LineReader() {
-    if (owned_) {
-        ::close(fd_);
-    }
-}
+LineReader::~LineReader() = default;
 
 bool LineReader::fill() {
-    for (;;) {
-        const ssize_t got = ::read(fd_, buffer_.get() + end_, kCapacity - end_);
-        if (got > 0) {
-            end_ += static_cast<std::size_t>(got);
-            return true;
-        }
-        if (got == 0) {
-            atEnd_ = true;
-            return false;
-        }
-        if (errno != EINTR) {
-            throwCannotRead(name_, errno);
-        }
-    }
+    const std::size_t got = input_.read(buffer_.get() + end_, kCapacity - end_);
+    end_ += got;
+    atEnd_ = got == 0;
+    return got > 0;
 }
 
 void LineReader::start() {

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "InputFile.h"
+
 namespace Navmsg {
 
 // Text input read line by line in bounded memory: a line longer than kMaxLine bytes
@@ -37,7 +39,7 @@ class LineReader {
     std::string_view head();
 
     // "standard input" or the path, as reports name it.
-    [[nodiscard]] const std::string& name() const { return name_; }
+    [[nodiscard]] const std::string& name() const { return input_.name(); }
 
   private:
     static constexpr std::size_t kBlock = std::size_t{1} << 16;
@@ -49,9 +51,7 @@ class LineReader {
     // Reads past the rest of an overlong line; the next line starts at begin_.
     void skipRestOfLine();
 
-    int fd_ = -1;
-    bool owned_ = false;
-    std::string name_;
+    InputFile input_;
     std::unique_ptr<char[]> buffer_;
     std::size_t begin_ = 0;    // first byte not yet returned
     std::size_t scanned_ = 0;  // bytes from begin_ known to hold no "\n"

@@ -1,8 +1,12 @@
 // navmsg: decodes navigation messages given as hex text into readable listings.
 //
-//   navmsg decode --sat G05 [--format LNAV] [--subframe N] [--page P] [--strict] [--crlf] HEX...
-//   navmsg batch [--strict] [--crlf] FILE|-
+//   navmsg decode --sat G05 [--format LNAV] [--subframe N] [--page P] [OUTPUT] HEX...
+//   navmsg batch [OUTPUT] FILE|-
+//   navmsg log [--format F] [--sat S] [--extract] [OUTPUT] FILE...|-
+//   navmsg encode [--format F [--sat SAT] ...] [--set PATH=VALUE]... [FILE|-]
 //   navmsg formats
+//
+// OUTPUT: [--output text|json|csv] [--all-fields] [--check] [--strict] [--crlf]
 //
 // Exit status (ExitStatus.h): 0 all decoded, 1 some message failed, 2 usage or input
 // error, 3 output could not be written.
@@ -18,8 +22,10 @@
 
 #include "BatchCommand.h"
 #include "DecodeCommand.h"
+#include "EncodeCommand.h"
 #include "ExitStatus.h"
 #include "FormatsCommand.h"
+#include "LogCommand.h"
 #include "Output.h"
 #include "zeltnavmsg/Version.h"
 
@@ -57,7 +63,9 @@ int run(int argc, char** argv, Output& out) {
     app.footer(std::string(kExitStatusHelp));
     const DecodeCommand decode(app);
     const BatchCommand batch(app);
+    const EncodeCommand encode(app);
     const FormatsCommand formats(app);
+    const LogCommand log(app);
 
     if (argc <= 1) {
         const std::string usage = app.help();
@@ -86,6 +94,12 @@ int run(int argc, char** argv, Output& out) {
     }
     if (batch.selected()) {
         return batch.run(out);
+    }
+    if (log.selected()) {
+        return log.run(out);
+    }
+    if (encode.selected()) {
+        return encode.run(out);
     }
     if (formats.selected()) {
         return FormatsCommand::run(out);

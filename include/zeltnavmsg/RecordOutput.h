@@ -24,7 +24,9 @@
 //
 // CSV: one row per field under the header
 //   line,sat,format,subframe,page,path,name,value,units,raw,ok
-// with RFC 4180 quoting; "ok" is the message's verdict.
+// with RFC 4180 quoting; "ok" is the message's verdict. Records of a receiver log (a
+// context with a signal) add ",signal,week,tow" after "ok" (week and tow empty without
+// a time tag).
 
 namespace ZeltNavMsg {
 
@@ -54,8 +56,8 @@ ZELTNAVMSG_API void AppendJsonRecord(std::string& out, const DecodedMessage& mes
 ZELTNAVMSG_API void AppendJsonError(std::string& out, std::int64_t line, std::string_view type,
                                     std::string_view message);
 
-// The header row, "\n" included.
-[[nodiscard]] ZELTNAVMSG_API std::string_view CsvHeader() noexcept;
+// The header row, "\n" included; with the receiver log columns when `log` is set.
+[[nodiscard]] ZELTNAVMSG_API std::string_view CsvHeader(bool log = false) noexcept;
 // Appends one row per field, each ended by "\n".
 ZELTNAVMSG_API void AppendCsvRows(std::string& out, const DecodedMessage& message,
                                   const RecordContext& context, const RecordOptions& options = {});

@@ -204,6 +204,26 @@ void checkCrcs(const FrameCrcs& crcs, const std::uint8_t* bytes, std::int32_t in
 
 }  // namespace
 
+void sealCrcs(MessageFormat format, std::uint8_t* bytes) {
+    const FrameCrcs* crcs = frameCrcs(format);
+    if (crcs == nullptr) {
+        return;
+    }
+    for (const CrcBlock& block : crcs->blocks) {
+        const std::int32_t at = block.bits.first + block.bits.count - kCrcBits;
+        const std::uint32_t crc = Crc24Q::ofBits(bytes, static_cast<std::size_t>(block.bits.first),
+                                                 static_cast<std::size_t>(at - block.bits.first));
+        for (std::int32_t i = 0; i < kCrcBits; ++i) {
+            const auto mask =
+                static_cast<std::uint8_t>(0x80U >> static_cast<unsigned>((at + i) % 8));
+            std::uint8_t& byte = bytes[(at + i) / 8];
+            byte = ((crc >> (kCrcBits - 1 - i)) & 1U) != 0
+                       ? static_cast<std::uint8_t>(byte | mask)
+                       : static_cast<std::uint8_t>(byte & ~mask);
+        }
+    }
+}
+
 void run(MessageFormat format, const std::uint8_t* bytes, std::int32_t inputBits,
          std::vector<CheckResult>& out) {
     switch (format) {

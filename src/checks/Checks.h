@@ -28,6 +28,10 @@ namespace ZeltNavMsg::Checks {
 void run(MessageFormat format, const std::uint8_t* bytes, std::int32_t inputBits,
          std::vector<CheckResult>& out);
 
+// Writes the CRC-24Q of every block of a frame format's message into its CRC bits, in
+// message order; `bytes` hold the whole frame. Other formats are left as they are.
+void sealCrcs(MessageFormat format, std::uint8_t* bytes);
+
 }  // namespace ZeltNavMsg::Checks
 
 #endif

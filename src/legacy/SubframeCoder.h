@@ -21,6 +21,14 @@ class SubframeCoder {
     virtual bool Encode(subframe_t& sf) const = 0;
     virtual bool Decode(subframe_t& sf) const = 0;
 
+    // Word `word` (0 ... 9) of received subframe `sf` as Decode would leave it, `sf`
+    // unchanged: a few fields can be read without decoding every word. Reads no word
+    // after `word`.
+    [[nodiscard]] virtual std::uint32_t DecodedWord(const subframe_t& sf,
+                                                    std::int32_t word) const noexcept = 0;
+
+    static constexpr std::int32_t kWordBits = 30;
+
     [[nodiscard]] constexpr std::int32_t variant() const noexcept { return variant_; }
 
     // The 30-bit word at bits firstBit ... firstBit+29 (counted from 1), first bit

@@ -181,6 +181,11 @@ SubframeCoderBeidouNav::CodewordPair SubframeCoderBeidouNav::DeinterleaveWord(
     return {static_cast<std::uint16_t>(split >> 16), static_cast<std::uint16_t>(split & 0xFFFFU)};
 }
 
+std::uint32_t SubframeCoderBeidouNav::InterleaveWord(std::uint32_t first,
+                                                     std::uint32_t second) noexcept {
+    return (spreadBits(first & kCodewordMask) << 1) | spreadBits(second & kCodewordMask);
+}
+
 bool SubframeCoderBeidouNav::Encode(subframe_t& sf) const {
     // Built in a cleared copy, so bits past word 10 and words that do not fit the
     // record come out zero; it starts with the uncoded bits of word 1.
@@ -197,11 +202,32 @@ bool SubframeCoderBeidouNav::Encode(subframe_t& sf) const {
         const std::uint32_t word = readWord(sf.data, wordStart(w) - 1);
         const std::uint32_t a = codeword(word >> 19);
         const std::uint32_t b = codeword(word >> 8);
-        failed = WriteWord(coded, wordStart(w), (spreadBits(a) << 1) | spreadBits(b)) || failed;
+        failed = WriteWord(coded, wordStart(w), InterleaveWord(a, b)) || failed;
     }
     std::memcpy(sf.data, coded.data, sizeof sf.data);
     return failed;
 }
+
+namespace {
+
+// Received word 1 -> decoded: its 15 uncoded bits, the 11 information bits of its
+// codeword, 4 zero bits.
+inline std::uint32_t decodeFirstWord(std::uint32_t received) noexcept {
+    const std::uint32_t info =
+        SubframeCoderBeidouNav::BchDecode(static_cast<std::uint16_t>(received & kCodewordMask));
+    return (((received >> kUncodedBits) << 11) | info) << 4;
+}
+
+// Received word 2-10 -> decoded: the information bits of its two codewords, 8 zero bits.
+inline std::uint32_t decodeWord(std::uint32_t received) noexcept {
+    const SubframeCoderBeidouNav::CodewordPair pair =
+        SubframeCoderBeidouNav::DeinterleaveWord(received);
+    return ((static_cast<std::uint32_t>(SubframeCoderBeidouNav::BchDecode(pair.first)) << 11) |
+            SubframeCoderBeidouNav::BchDecode(pair.second))
+           << 8;
+}
+
+}  // namespace
 
 bool SubframeCoderBeidouNav::Decode(subframe_t& sf) const {
     if (sf.bitCount >= 300) {
@@ -214,34 +240,25 @@ bool SubframeCoderBeidouNav::Decode(subframe_t& sf) const {
             const int at = 30 * w;
             const std::uint32_t word =
                 static_cast<std::uint32_t>(load64(in + at / 8) >> (34 - at % 8)) & 0x3FFFFFFFU;
-            std::uint32_t decoded = 0;
-            if (w == 0) {
-                const std::uint32_t info =
-                    BchDecode(static_cast<std::uint16_t>(word & kCodewordMask));
-                decoded = (((word >> kUncodedBits) << 11) | info) << 4;
-            } else {
-                const CodewordPair pair = DeinterleaveWord(word);
-                decoded = ((static_cast<std::uint32_t>(BchDecode(pair.first)) << 11) |
-                           BchDecode(pair.second))
-                          << 8;
-            }
+            const std::uint32_t decoded = w == 0 ? decodeFirstWord(word) : decodeWord(word);
             store64(out + at / 8, load64(out + at / 8) | (std::uint64_t{decoded} << (34 - at % 8)));
         }
         out[37] = static_cast<std::uint8_t>((out[37] & 0xF0U) | (sf.data[37] & 0x0FU));
         std::memcpy(sf.data, out, sizeof sf.data);
         return false;
     }
-    const std::uint32_t first = readWord(sf.data, 0);
-    const std::uint32_t info = BchDecode(static_cast<std::uint16_t>(first & kCodewordMask));
-    bool failed = WriteWord(sf, wordStart(0), (((first >> kUncodedBits) << 11) | info) << 4);
+    bool failed = WriteWord(sf, wordStart(0), decodeFirstWord(readWord(sf.data, 0)));
     for (int w = 1; w < kWords; ++w) {
-        const std::uint32_t word = readWord(sf.data, wordStart(w) - 1);
-        const CodewordPair pair = DeinterleaveWord(word);
-        const std::uint32_t decoded =
-            (static_cast<std::uint32_t>(BchDecode(pair.first)) << 11) | BchDecode(pair.second);
-        failed = WriteWord(sf, wordStart(w), decoded << 8) || failed;
+        failed =
+            WriteWord(sf, wordStart(w), decodeWord(readWord(sf.data, wordStart(w) - 1))) || failed;
     }
     return failed;
+}
+
+std::uint32_t SubframeCoderBeidouNav::DecodedWord(const subframe_t& sf,
+                                                  std::int32_t word) const noexcept {
+    const std::uint32_t received = readWord(sf.data, wordStart(word) - 1);
+    return word == 0 ? decodeFirstWord(received) : decodeWord(received);
 }
 
 }  // namespace ZeltNavMsg::Legacy

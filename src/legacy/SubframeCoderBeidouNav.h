@@ -24,6 +24,8 @@ class SubframeCoderBeidouNav final : public SubframeCoder {
 
     // Received layout -> decoded layout, every codeword through BchDecode.
     bool Decode(subframe_t& sf) const override;
+    [[nodiscard]] std::uint32_t DecodedWord(const subframe_t& sf,
+                                            std::int32_t word) const noexcept override;
 
     // The 11 information bits of a 15-bit codeword (information first, parity in the
     // low 4 bits) after this decoder's correction step. The syndrome comes from four
@@ -44,6 +46,11 @@ class SubframeCoderBeidouNav final : public SubframeCoder {
         std::uint16_t second;
     };
     [[nodiscard]] static CodewordPair DeinterleaveWord(std::uint32_t word) noexcept;
+
+    // A received word 2-10 from its two 15-bit codewords (information first, parity in
+    // the low 4 bits): the bits alternate, the first codeword's bit first.
+    [[nodiscard]] static std::uint32_t InterleaveWord(std::uint32_t first,
+                                                      std::uint32_t second) noexcept;
 };
 
 }  // namespace ZeltNavMsg::Legacy

@@ -72,4 +72,10 @@ bool SubframeCoderGpsLNav::Decode(subframe_t& sf) const {
     return failed;
 }
 
+std::uint32_t SubframeCoderGpsLNav::DecodedWord(const subframe_t& sf,
+                                                std::int32_t word) const noexcept {
+    const std::uint32_t previous = word > 0 ? ReadWord(sf, kWordBits * (word - 1) + 1) : 0U;
+    return SourceWord(ReadWord(sf, kWordBits * word + 1), previous);
+}
+
 }  // namespace ZeltNavMsg::Legacy

@@ -82,6 +82,8 @@ class SubframeCoderGpsLNav final : public SubframeCoder {
 
     // Undoes the data-bit inversion of every word whose received predecessor ends in 1.
     bool Decode(subframe_t& sf) const override;
+    [[nodiscard]] std::uint32_t DecodedWord(const subframe_t& sf,
+                                            std::int32_t word) const noexcept override;
 
     // The six parity bits D25 ... D30 (D25 in bit 5) of the source data bits d1 ... d24
     // of 30-bit word `word` (d1 = bit 29; bits 5-0 are ignored) given the last two bits

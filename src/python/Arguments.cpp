@@ -2,6 +2,7 @@
 
 #include <limits>
 #include <span>
+#include <string>
 
 namespace ZeltNavMsg::Python {
 
@@ -79,7 +80,10 @@ MessageFormat toFormat(py::handle arg) {
                 "format must be a MessageFormat or its name, not " + typeName(arg));
 }
 
-std::int32_t toInt32(py::handle arg, const char* what) {
+namespace {
+
+// An integer argument from `min` to `max`, the bounds of a C++ type of `bits` bits.
+long long toInteger(py::handle arg, const char* what, long long min, long long max, int bits) {
     const auto value = py::reinterpret_steal<py::object>(PyNumber_Index(arg.ptr()));
     if (!value) {
         throwPython(PyExc_TypeError, std::string(what) + " must be an int, not " + typeName(arg));
@@ -89,12 +93,42 @@ std::int32_t toInt32(py::handle arg, const char* what) {
     if (number == -1 && PyErr_Occurred() != nullptr) {
         throw py::error_already_set();
     }
-    if (overflow != 0 || number < std::numeric_limits<std::int32_t>::min() ||
-        number > std::numeric_limits<std::int32_t>::max()) {
+    if (overflow != 0 || number < min || number > max) {
         throwPython(PyExc_OverflowError, std::string(what) + " " + std::string(py::str(value)) +
-                                             " does not fit in 32 bits");
+                                             " does not fit in " + std::to_string(bits) + " bits");
     }
-    return static_cast<std::int32_t>(number);
+    return number;
+}
+
+}  // namespace
+
+std::int32_t toInt32(py::handle arg, const char* what) {
+    return static_cast<std::int32_t>(toInteger(arg, what, std::numeric_limits<std::int32_t>::min(),
+                                               std::numeric_limits<std::int32_t>::max(), 32));
+}
+
+std::int64_t toLine(py::handle arg) {
+    if (arg.is_none()) {
+        return 0;
+    }
+    const long long line = toInteger(arg, "line", std::numeric_limits<std::int64_t>::min(),
+                                     std::numeric_limits<std::int64_t>::max(), 64);
+    if (line < 1) {
+        throwPython(PyExc_ValueError, "line must be 1 or more, not " + std::to_string(line));
+    }
+    return line;
+}
+
+std::string toLatin1(py::handle arg, const char* what) {
+    if (!PyUnicode_Check(arg.ptr())) {
+        throwPython(PyExc_TypeError, std::string(what) + " must be str, not " + typeName(arg));
+    }
+    const auto bytes = py::reinterpret_steal<py::bytes>(PyUnicode_AsLatin1String(arg.ptr()));
+    if (!bytes) {
+        throw py::error_already_set();
+    }
+    return {PyBytes_AS_STRING(bytes.ptr()),
+            static_cast<std::size_t>(PyBytes_GET_SIZE(bytes.ptr()))};
 }
 
 std::string_view toHex(py::handle arg) {
@@ -113,7 +147,7 @@ std::string_view toHex(py::handle arg) {
     throwPython(PyExc_TypeError, "hex must be str or bytes, not " + typeName(arg));
 }
 
-py::str listingText(const std::string& text) {
+py::str latin1Text(std::string_view text) {
     PyObject* str =
         PyUnicode_DecodeLatin1(text.data(), static_cast<Py_ssize_t>(text.size()), nullptr);
     if (str == nullptr) {

@@ -94,13 +94,21 @@ MessageFormat toFormat(py::handle arg);
 // the 32 bits of the C++ interface.
 std::int32_t toInt32(py::handle arg, const char* what);
 
+// An input line number: None (0, none) or 1 or more; ValueError below 1, OverflowError
+// beyond 64 bits.
+std::int64_t toLine(py::handle arg);
+
 // The hex text of a str (as UTF-8) or bytes. Both are immutable, so the view stays
 // valid, with the interpreter lock released, for as long as the caller holds `arg`.
 std::string_view toHex(py::handle arg);
 
-// A listing as str, one character per byte: the listing is ASCII except where a text
-// message's 8-bit character codes are printed as they are.
-py::str listingText(const std::string& text);
+// A str argument named `what` in the library's 8-bit text, one byte per character
+// (Latin-1): TypeError for another type, UnicodeEncodeError beyond U+00FF.
+std::string toLatin1(py::handle arg, const char* what);
+
+// The library's 8-bit text as str, one character per byte: a listing is ASCII except
+// where a text message's 8-bit character codes are printed as they are.
+py::str latin1Text(std::string_view text);
 
 }  // namespace ZeltNavMsg::Python
 

@@ -1,5 +1,7 @@
 // The compiled part of the zeltnavmsg package: the listing, the name look-ups, the
-// table of systems, signals and formats, the enumerations and the library's error.
+// table of systems, signals and formats, the enumerations and the library's error. Each
+// further feature binds itself from a source of its own (Records.cpp: decode_fields;
+// LogReading.cpp: read_log; Encoding.cpp: MessageEncoder).
 
 #include <pybind11/pybind11.h>
 
@@ -9,6 +11,8 @@
 
 #include "api/FormatNames.h"
 #include "python/Arguments.h"
+#include "python/Encoding.h"
+#include "python/LogReading.h"
 #include "python/Records.h"
 #include "zeltnavmsg/NavMessageDecoder.h"
 
@@ -33,7 +37,7 @@ py::str decode(py::handle format, py::handle subframe, py::handle page, py::hand
         const py::gil_scoped_release unlocked;
         text = NavMessageDecoder::Decode(f, s, p, digits);
     }
-    return listingText(text);
+    return latin1Text(text);
 }
 
 // Asks the library itself, as `navmsg formats` does: 76 zero digits fit every format.
@@ -123,7 +127,7 @@ PYBIND11_MODULE(_zeltnavmsg, m) {
         "_formats", [enums] { return formatTable(enums); },
         "_formats() -> list\n\nThe rows zeltnavmsg.formats() is made of.");
 
-#ifdef ZELTNAVMSG_PYTHON_RECORDS
     ZeltNavMsg::Python::bindRecords(m, enums);
-#endif
+    ZeltNavMsg::Python::bindLogReading(m, enums);
+    ZeltNavMsg::Python::bindEncoding(m, enums);
 }

@@ -1,29 +1,27 @@
 
-# Records of every field (built with ZELTNAVMSG_PYTHON_RECORDS).
-from typing import Any, Literal
+# Records of every field: decode_fields() and its classes (Records.cpp).
+from typing import Any, Iterable, Literal
 
 class Field:
     path: str
     name: str
     kind: Literal["unsigned", "signed", "real", "flag", "character"]
     role: Literal["data", "reserved", "check", "word"]
-    value: int | float | bool
+    value: int | float | bool | str
     units: str
     raw: int
-    bits: list[tuple[int, int]]
+    bits: tuple[tuple[int, int], ...]
     corrected: bool
-    def to_dict(self) -> dict[str, Any]: ...
 
 class Check:
     name: str
-    status: Literal["pass", "fail", "corrected", "incomplete"]
     ok: bool
-    bits: list[tuple[int, int]]
+    status: Literal["pass", "fail", "corrected", "incomplete"]
+    bits: tuple[tuple[int, int], ...]
     check_bits: int
     computed: int
     received: int
     corrected_bit: int | None
-    def to_dict(self) -> dict[str, Any]: ...
 
 class Message:
     format: MessageFormat
@@ -31,13 +29,22 @@ class Message:
     page: int
     bit_count: int
     layout: str
+    sat: str
+    line: int | None
     ok: bool
-    fields: list[Field]
-    checks: list[Check]
-    def __len__(self) -> int: ...
+    fields: tuple[Field, ...]
+    checks: tuple[Check, ...]
     def __getitem__(self, key: str) -> Field: ...
     def to_dict(self) -> dict[str, Any]: ...
 
 def decode_fields(
-    format: MessageFormat | str, subframe: int, page: int, hex: str | bytes
+    format: MessageFormat | str,
+    subframe: int,
+    page: int,
+    hex: str | bytes,
+    *,
+    all_fields: bool = False,
+    sat: str = "",
+    line: int | None = None,
 ) -> Message: ...
+def _field_columns(messages: Iterable[Message]) -> tuple[list[Any], ...]: ...

@@ -7,10 +7,15 @@
 
 namespace ZeltNavMsg::Records {
 
-// What FieldInfo::detail points at: the listing line of the field, and the parts of
-// its JSON and CSV text that do not depend on the bits, made once with the plan.
+// What FieldInfo::detail points at: the listing line of the field, its value rule
+// (the encoder runs it backwards), and the parts of its JSON and CSV text that do not
+// depend on the bits, made once with the plan.
 struct FieldDetail {
     ListingSource listing;
+    // value = the number `rule.format` reads from the raw bits x `rule.scale`, in the
+    // record's units, corrections included; rule.width is the record's bit count.
+    ValueRule rule;
+    MessageFormat format = MessageFormat::GpsLNav;  // of the plan that made the field
     // {"path":...,"name":...,"kind":"...","value":   (and with "role" after "kind")
     std::string jsonHead;
     std::string jsonHeadWithRole;

@@ -208,8 +208,10 @@ class LegacyPlan {
                layoutId <= maxLayout_;
     }
     [[nodiscard]] Parts selection(const subframe_t& sf, std::int32_t layoutId) const noexcept {
-        const Selection& s =
-            selections_[static_cast<std::size_t>((sf.subframe - 1) * (maxLayout_ + 1) + layoutId)];
+        const auto index = (static_cast<std::size_t>(sf.subframe) - 1) *
+                               (static_cast<std::size_t>(maxLayout_) + 1) +
+                           static_cast<std::size_t>(layoutId);
+        const Selection& s = selections_[index];
         return {std::span<const Reader>(readers_).subspan(s.first, s.count), s.rawCount};
     }
 
@@ -279,7 +281,7 @@ class LegacyPlan {
 
     // The line of the entry `name` the listing's rule selects in subframe `subframe`
     // whatever its page, or -1.
-    std::int64_t findLine(std::int32_t subframe, std::string_view name) const {
+    [[nodiscard]] std::int64_t findLine(std::int32_t subframe, std::string_view name) const {
         Legacy::subframe_t sf;
         sf.subframe = subframe;
         std::int64_t found = -1;
@@ -361,6 +363,8 @@ class LegacyPlan {
             part.rule = rule;
             part.rule.width = partBits;
             part.isSigned = rule.format != NumberFormat::UnsignedNumberFormat;
+            detail.rule = part.rule;
+            detail.format = format_;
             parts_.push_back(part);
             part = LegacyPart{};
             partBits = 0;

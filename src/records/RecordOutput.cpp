@@ -313,18 +313,18 @@ void describeForOutput(const FieldInfo& info, FieldDetail& detail) {
     appendJsonString(head, info.path);
     head.append(",\"name\":");
     appendJsonString(head, info.name);
-    head.append(",\"kind\":\"");
+    head.append(R"(,"kind":")");
     head.append(kKinds[static_cast<std::size_t>(info.kind)]);
     detail.jsonHead = head;
-    detail.jsonHead.append("\",\"value\":");
+    detail.jsonHead.append(R"(","value":)");
     detail.jsonHeadWithRole = head;
-    detail.jsonHeadWithRole.append("\",\"role\":\"");
+    detail.jsonHeadWithRole.append(R"(","role":")");
     detail.jsonHeadWithRole.append(kRoles[static_cast<std::size_t>(info.role)]);
-    detail.jsonHeadWithRole.append("\",\"value\":");
+    detail.jsonHeadWithRole.append(R"(","value":)");
     detail.jsonMid.assign(",\"units\":");
     appendJsonString(detail.jsonMid, info.units);
-    detail.jsonMid.append(",\"raw\":\"");
-    detail.jsonTail.assign("\",\"bits\":");
+    detail.jsonMid.append(R"(,"raw":")");
+    detail.jsonTail.assign(R"(","bits":)");
     appendJsonBits(detail.jsonTail, info.bits);
     detail.jsonTail.push_back('}');
 
@@ -389,7 +389,7 @@ void AppendJsonRecord(std::string& out, const DecodedMessage& message, const Rec
         json.string(context.signal);
     }
     if (context.hasTime) {
-        json.put(",\"time\":{\"week\":");
+        json.put(R"(,"time":{"week":)");
         json.integer(context.week);
         json.put(",\"tow\":");
         json.number(context.tow);
@@ -437,9 +437,9 @@ void AppendJsonRecord(std::string& out, const DecodedMessage& message, const Rec
         }
         json.put(",\"bits\":");
         json.bits(c.bits);
-        json.put(",\"computed\":\"");
+        json.put(R"(,"computed":")");
         json.hex(c.computed, (c.checkBits + 3) / 4);
-        json.put("\",\"received\":\"");
+        json.put(R"(","received":")");
         json.hex(c.received, (c.checkBits + 3) / 4);
         json.put('"');
         if (c.correctedBit >= 0) {
@@ -460,15 +460,16 @@ void AppendJsonError(std::string& out, std::int64_t line, std::string_view type,
         appendInteger(out, line);
         out.push_back(',');
     }
-    out.append("\"error\":{\"type\":");
+    out.append(R"("error":{"type":)");
     appendJsonString(out, type);
     out.append(",\"message\":");
     appendJsonString(out, message);
     out.append("}}\n");
 }
 
-std::string_view CsvHeader() noexcept {
-    return "line,sat,format,subframe,page,path,name,value,units,raw,ok\n";
+std::string_view CsvHeader(bool log) noexcept {
+    return log ? "line,sat,format,subframe,page,path,name,value,units,raw,ok,signal,week,tow\n"
+               : "line,sat,format,subframe,page,path,name,value,units,raw,ok\n";
 }
 
 void AppendCsvRows(std::string& out, const DecodedMessage& message, const RecordContext& context,
@@ -487,7 +488,20 @@ void AppendCsvRows(std::string& out, const DecodedMessage& message, const Record
     head.push_back(',');
     appendInteger(head, message.page());
     head.push_back(',');
-    const std::string_view verdict = message.ok() ? "true\n" : "false\n";
+    std::string verdict = message.ok() ? "true" : "false";
+    if (!context.signal.empty()) {
+        verdict.push_back(',');
+        appendCsvCell(verdict, context.signal);
+        verdict.push_back(',');
+        if (context.hasTime) {
+            appendInteger(verdict, context.week);
+            verdict.push_back(',');
+            appendNumber(verdict, context.tow);
+        } else {
+            verdict.push_back(',');
+        }
+    }
+    verdict.push_back('\n');
     for (const DecodedField& f : message.fields()) {
         if (!shown(f, options)) {
             continue;

@@ -114,6 +114,8 @@ class TreeRecordPlan {
         rule.width = slot.width;
 
         FieldDetail& detail = details_.emplace_back();
+        detail.rule = rule;
+        detail.format = format_;
         if (info.listed) {
             detail.listing.treeField = &def;
             detail.listing.frameBits = plan_.frameBits();

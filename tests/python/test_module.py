@@ -9,7 +9,7 @@ from concurrent.futures import ThreadPoolExecutor
 import pytest
 
 import zeltnavmsg
-from zeltnavmsg import DecodingError, MessageFormat, SignalType
+from zeltnavmsg import DecodingError, EncodingError, MessageFormat, SignalType
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 LNAV = "8b0d3487fffd614d351000091b1de78f322ebaf701369182b0dd6d7f8f6800ffd153eafc2f0"
@@ -50,10 +50,30 @@ def test_name_lookups_give_the_table_values_and_errors(names_table):
     (("GpsLNav", "1", 0, LNAV), TypeError, "subframe must be an int, not str"),
     (("GpsLNav", 1, 0, bytearray(b"8b")), TypeError, "hex must be str or bytes, not bytearray"),
 ])
-def test_decode_errors(args, error, message):
+@pytest.mark.parametrize("function", [zeltnavmsg.decode, zeltnavmsg.decode_fields])
+def test_decode_errors(function, args, error, message):
     with pytest.raises(Exception) as caught:
-        zeltnavmsg.decode(*args)
+        function(*args)
     assert (type(caught.value), str(caught.value)) == (error, message)
+
+
+@pytest.mark.parametrize("options, error, message", [
+    ({"sat": 5}, TypeError, "sat must be str, not int"),
+    ({"sat": "G\u0100"}, UnicodeEncodeError,
+     "'latin-1' codec can't encode character '\\u0100' in position 1: ordinal not in range(256)"),
+    ({"line": 0}, ValueError, "line must be 1 or more, not 0"),
+    ({"line": -2**63}, ValueError, "line must be 1 or more, not -9223372036854775808"),
+    ({"line": 2**63}, OverflowError, "line 9223372036854775808 does not fit in 64 bits"),
+    ({"line": 1.0}, TypeError, "line must be an int, not float"),
+    ({"all_fields": type("Unsure", (), {"__bool__": lambda _: 1 / 0})()}, ZeroDivisionError,
+     "division by zero"),
+])
+def test_decode_fields_option_errors(options, error, message):
+    with pytest.raises(Exception) as caught:
+        zeltnavmsg.decode_fields("GpsLNav", 1, 0, LNAV, **options)
+    assert (type(caught.value), str(caught.value)) == (error, message)
+    with pytest.raises(TypeError, match="^to_dataframe takes Message objects .*, not int$"):
+        zeltnavmsg.to_dataframe([zeltnavmsg.decode_fields("GpsLNav", 1, 0, LNAV), 3])
 
 
 def test_every_spelling_of_the_arguments_decodes_alike():
@@ -88,20 +108,27 @@ def test_stubs_declare_what_the_module_has():
 
 
 def test_enumerations_and_errors_pickle_by_the_package_name():
-    for value in (MessageFormat.Irnss, SignalType.SbasL5, DecodingError("bad digit")):
+    for value in (MessageFormat.Irnss, SignalType.SbasL5, DecodingError("bad digit"),
+                  EncodingError("toe: out of range")):
         copy = pickle.loads(pickle.dumps(value))
         assert (type(copy), str(copy)) == (type(value), str(value))
-    assert issubclass(DecodingError, ValueError)
+    assert issubclass(DecodingError, ValueError) and issubclass(EncodingError, DecodingError)
 
 
-def test_eight_threads_decode_as_one(real_messages):
+def records(*job):
+    m = zeltnavmsg.decode_fields(*job, all_fields=True)
+    return m.layout, [(f.value, f.raw) for f in m.fields], [c.computed for c in m.checks]
+
+
+@pytest.mark.parametrize("function, passes", [(zeltnavmsg.decode, 5), (records, 2)])
+def test_eight_threads_decode_as_one(real_messages, function, passes):
     jobs = [(fmt, subframe, page, hex_) for fmt, _, subframe, page, hex_ in real_messages]
     jobs += [("GpsLNav", 1, 0, "8b0x"), ("CNav", 1, 0, LNAV), ("Irnss", 1, 0, ""),
              ("BeidouD2", 1, 0, "0" * 78)]
 
     def outcome(job):
         try:
-            return zeltnavmsg.decode(*job)
+            return function(*job)
         except (ValueError, IndexError) as e:
             return type(e), str(e)
 
@@ -109,9 +136,9 @@ def test_eight_threads_decode_as_one(real_messages):
 
     def run(shift):  # each thread starts at another message
         order = jobs[shift:] + jobs[:shift]
-        return [outcome(job) for _ in range(5) for job in order]
+        return [outcome(job) for _ in range(passes) for job in order]
 
     with ThreadPoolExecutor(8) as pool:
         for thread, got in enumerate(pool.map(run, [i * 71 for i in range(8)])):
             shift = thread * 71
-            assert got == (expected[shift:] + expected[:shift]) * 5
+            assert got == (expected[shift:] + expected[:shift]) * passes

@@ -136,7 +136,7 @@ TEST(NavmsgCli, UsageHelpAndVersion) {
     const CliRun version = navmsg("--version");
     EXPECT_EQ(version.status, 0);
     EXPECT_TRUE(version.out.starts_with("navmsg ")) << version.out;
-    for (const std::string command : {"", "decode", "batch", "formats"}) {
+    for (const std::string command : {"", "decode", "batch", "encode", "formats"}) {
         const CliRun help = navmsg(command + " --help");
         EXPECT_EQ(help.status, 0) << command;
         EXPECT_NE(help.out.find("Usage"), std::string::npos) << command;
