@@ -1,7 +1,7 @@
 // Speed of Decode on real broadcasts, per format, against two baselines: parsing the
 // hex text alone (the floor) and the plain snprintf listing of the same lines (what
 // a straightforward implementation costs). Each message format is one row of
-// kFormats; every benchmark cycles through all real messages of its format, so no
+// formats() in BenchData.cpp; every benchmark cycles through all real messages of its format, so no
 // single input is learned by the branch predictor.
 //
 //   build/bench/bench/zeltnavmsg_bench --benchmark_repetitions=5
@@ -14,23 +14,14 @@
 
 #include <cstdint>
 #include <cstdio>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "AllocationCounter.h"
+#include "BenchData.h"
 #include "api/HexInput.h"
 #include "baseline/NaiveLegacyListing.h"
 #include "baseline/NaiveTreeListing.h"
-#include "legacy/BeidouD1Interface.h"
-#include "legacy/BeidouD2Interface.h"
-#include "legacy/GpsL1caInterface.h"
-#include "legacy/QzssL1caInterface.h"
-#include "schemas/beidou_cnav1/FrameDef.h"
-#include "schemas/beidou_cnav2/FrameDef.h"
-#include "schemas/gps_cnav2/FrameDef.h"
-#include "schemas/irnss/SubframeDef.h"
 #include "zeltnavmsg/DecodedMessage.h"
 #include "zeltnavmsg/NavMessageDecoder.h"
 #include "zeltnavmsg/RecordOutput.h"
@@ -39,80 +30,8 @@ namespace {
 
 using ZeltNavMsg::MessageFormat;
 using ZeltNavMsg::NavMessageDecoder;
-namespace Legacy = ZeltNavMsg::Legacy;
-
-struct BenchFormat {
-    const char* name;
-    MessageFormat format;
-    const char* dataFile;  // in tests/data/real-data
-    // For the snprintf baseline: the signal of a legacy format, or the root and
-    // frame length of a definition tree.
-    const Legacy::SubframeIf* legacySignal;
-    const ZeltNavMsg::BitStructDef& (*treeRoot)() = nullptr;
-    int treeBits = 0;
-};
-
-const ZeltNavMsg::BitStructDef& gpsCNav2() {
-    return ZeltNavMsg::GpsCNav2::gpsCNav2FrameDef();
-}
-const ZeltNavMsg::BitStructDef& beidouCNav1() {
-    return ZeltNavMsg::BeidouCNav1::beidouCNav1FrameDef();
-}
-const ZeltNavMsg::BitStructDef& beidouCNav2() {
-    return ZeltNavMsg::BeidouCNav2::beidouCNav2FrameDef();
-}
-const ZeltNavMsg::BitStructDef& irnss() {
-    return ZeltNavMsg::Irnss::irnssSubframeDef();
-}
-
-// The formats measured: one line each.
-const BenchFormat kFormats[] = {
-    {"GpsLNav", MessageFormat::GpsLNav, "gps_lnav.tsv", &Legacy::GPS_L1CA_Interface},
-    {"QzssLNav", MessageFormat::QzssLNav, "qzss_lnav.tsv", &Legacy::QZSS_L1CA_Interface},
-    {"BeidouD1", MessageFormat::BeidouD1, "beidou_d1.tsv", &Legacy::BEIDOU_D1_Interface},
-    {"BeidouD2", MessageFormat::BeidouD2, "beidou_d2.tsv", &Legacy::BEIDOU_D2_Interface},
-    {"GpsCNav2", MessageFormat::GpsCNav2, "gps_cnav2.tsv", nullptr, gpsCNav2, 883},
-    {"BeidouCNav1", MessageFormat::BeidouCNav1, "beidou_cnav1.tsv", nullptr, beidouCNav1, 878},
-    {"BeidouCNav2", MessageFormat::BeidouCNav2, "beidou_cnav2.tsv", nullptr, beidouCNav2, 288},
-    {"Irnss", MessageFormat::Irnss, "irnss.tsv", nullptr, irnss, 292},
-};
-
-struct Message {
-    std::int32_t subframe = 0;
-    std::int32_t page = 0;
-    std::string hex;
-};
-
-// Columns of a data line, TAB-separated: format, satellite, subframe, page, hex, ...
-std::vector<Message> loadMessages(const char* fileName) {
-    const std::string path = std::string(ZELTNAVMSG_REAL_DATA_DIR) + "/" + fileName;
-    std::ifstream file(path);
-    if (!file) {
-        std::fprintf(stderr, "cannot read %s\n", path.c_str());
-        return {};
-    }
-    std::vector<Message> messages;
-    for (std::string line; std::getline(file, line);) {
-        if (line.empty() || line.front() == '#') {
-            continue;
-        }
-        std::istringstream cells(line);
-        std::string format;
-        std::string satellite;
-        std::string subframe;
-        std::string page;
-        Message m;
-        std::getline(cells, format, '\t');
-        std::getline(cells, satellite, '\t');
-        std::getline(cells, subframe, '\t');
-        std::getline(cells, page, '\t');
-        std::getline(cells, m.hex, '\t');
-        m.subframe = std::stoi(subframe);
-        m.page = std::stoi(page);
-        messages.push_back(std::move(m));
-    }
-    return messages;
-}
+using ZeltNavMsg::Bench::BenchFormat;
+using ZeltNavMsg::Bench::Message;
 
 struct FormatData {
     const BenchFormat* format;
@@ -212,9 +131,9 @@ int main(int argc, char** argv) {
     }
 
     std::vector<FormatData> data;
-    data.reserve(std::size(kFormats));
-    for (const BenchFormat& format : kFormats) {
-        data.push_back({&format, loadMessages(format.dataFile)});
+    data.reserve(ZeltNavMsg::Bench::formats().size());
+    for (const BenchFormat& format : ZeltNavMsg::Bench::formats()) {
+        data.push_back({&format, ZeltNavMsg::Bench::loadMessages(format.dataFile)});
         if (data.back().messages.empty()) {
             std::fprintf(stderr, "no messages for %s\n", format.name);
             return 1;

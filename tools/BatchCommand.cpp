@@ -24,17 +24,32 @@ struct Words {
     std::size_t count = 0;
 };
 
+// The blanks between words: space, \t, \r, \v and \f.
+constexpr bool isBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\v' || c == '\f';
+}
+
+// One pass over the characters: a set lookup per character would cost a library call
+// per character of the hex word.
 Words splitWords(std::string_view line) {
     Words w;
-    constexpr std::string_view kBlanks = " \t\r\v\f";
-    for (std::size_t start = line.find_first_not_of(kBlanks);
-         start != std::string_view::npos && w.count <= Words::kMaxWords;) {
-        const std::size_t end = line.find_first_of(kBlanks, start);
+    const std::size_t n = line.size();
+    std::size_t i = 0;
+    while (w.count <= Words::kMaxWords) {
+        while (i < n && isBlank(line[i])) {
+            ++i;
+        }
+        if (i == n) {
+            break;
+        }
+        const std::size_t start = i;
+        while (i < n && !isBlank(line[i])) {
+            ++i;
+        }
         if (w.count < Words::kMaxWords) {
-            w.word[w.count] = line.substr(start, end == std::string_view::npos ? end : end - start);
+            w.word[w.count] = line.substr(start, i - start);
         }
         ++w.count;
-        start = end == std::string_view::npos ? end : line.find_first_not_of(kBlanks, end);
     }
     return w;
 }

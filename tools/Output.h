@@ -65,6 +65,8 @@ class Output {
 
   private:
     static constexpr std::size_t kBlock = std::size_t{1} << 16;
+    // Line-end conversion copies this many bytes at a time.
+    static constexpr std::size_t kCopyBlock = 16;
 
     void writeOut();
 

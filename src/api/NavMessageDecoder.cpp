@@ -3,14 +3,15 @@
 #include "zeltnavmsg/DecodedMessage.h"
 
 #include <algorithm>
+#include <array>
 #include <stdexcept>
 #include <string>
+#include <type_traits>
 
 #include "api/FormatNames.h"
 #include "api/HexInput.h"
-#include "bits/BinArray.h"
 #include "checks/Checks.h"
-#include "fields/ReadableDescription.h"
+#include "fields/TreePlan.h"
 #include "legacy/BeidouD1Interface.h"
 #include "legacy/BeidouD2Interface.h"
 #include "legacy/GpsL1caInterface.h"
@@ -80,14 +81,21 @@ void describeSubframe(const Legacy::SubframeIf& signal, std::int32_t subframeNum
 }
 
 // Definition-tree road: the first N bits go into a zeroed frame (a shorter input
-// leaves the rest zero, a longer one is cut) and the format's tree describes it.
-template <int N>
-void describeFrame(const BitStructDef& root, std::string_view digits, Text::TextBuffer& out) {
-    BinArray<N> frame;
-    frame.fill(0);
-    Detail::hexDigitsToBytes(digits, frame.data(), BinArray<N>::kBytes);
-    frame.clearUnusedBits();
-    Describe::appendText(root, frame.buffer(), 0, out);
+// leaves the rest zero, a longer one is cut) and the plan of the format's tree lists
+// it.
+template <auto Root>
+void describeFrame(std::string_view digits, Text::TextBuffer& out) {
+    constexpr int kBits = std::remove_cvref_t<decltype(Root())>::kBits;
+    const Describe::TreePlan& plan = Describe::treePlanOf<Root>();
+    std::array<std::uint8_t, (kBits + 7) / 8> frame{};
+    if (plan.readableBytes() > frame.size()) {
+        throw std::logic_error("Decode: the tree reaches past its frame");
+    }
+    Detail::hexDigitsToBytes(digits, frame.data(), frame.size());
+    if constexpr (kBits % 8 != 0) {
+        frame.back() &= static_cast<std::uint8_t>(0xFF00U >> (kBits % 8));
+    }
+    plan.appendText(ConstBitBuffer(frame.data(), kBits), out);
 }
 
 }  // namespace
@@ -145,18 +153,16 @@ std::string NavMessageDecoder::Decode(MessageFormat format, std::int32_t subfram
     Text::TextBuffer out("\r\n");
     switch (format) {
         case MessageFormat::GpsCNav2:
-            describeFrame<GpsCNav2::FrameDef::kBits>(GpsCNav2::gpsCNav2FrameDef(), digits, out);
+            describeFrame<&GpsCNav2::gpsCNav2FrameDef>(digits, out);
             break;
         case MessageFormat::Irnss:
-            describeFrame<Irnss::SubframeDef::kBits>(Irnss::irnssSubframeDef(), digits, out);
+            describeFrame<&Irnss::irnssSubframeDef>(digits, out);
             break;
         case MessageFormat::BeidouCNav1:
-            describeFrame<BeidouCNav1::FrameDef::kBits>(BeidouCNav1::beidouCNav1FrameDef(), digits,
-                                                        out);
+            describeFrame<&BeidouCNav1::beidouCNav1FrameDef>(digits, out);
             break;
         case MessageFormat::BeidouCNav2:
-            describeFrame<BeidouCNav2::FrameDef::kBits>(BeidouCNav2::beidouCNav2FrameDef(), digits,
-                                                        out);
+            describeFrame<&BeidouCNav2::beidouCNav2FrameDef>(digits, out);
             break;
         case MessageFormat::GpsLNav:
             describeSubframe(Legacy::GPS_L1CA_Interface, subframeNumber, pageNumber, digits, out);

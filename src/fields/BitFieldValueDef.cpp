@@ -17,7 +17,6 @@ BitFieldValueDef::BitFieldValueDef(BitStructDef* parent, std::string name,
       singleRange_(BitFieldDef::ranges().size() == 1),
       windowed_(singleRange_ && totalBitsCount() <= 57),
       hexDigits_(std::min((totalBitsCount() + 3) / 4, 17)),
-      label_(BitFieldDef::name() + ": "),
       unitsSuffix_(units().empty() ? std::string() : " " + units()) {
     if (windowed_) {
         firstByte_ = BitFieldDef::ranges().front().firstBitIndex() / 8;

@@ -1,7 +1,9 @@
 #ifndef ZELTNAVMSG_FIELDS_BITFIELDVALUEDEF_H
 #define ZELTNAVMSG_FIELDS_BITFIELDVALUEDEF_H
 
+#include <bit>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -36,12 +38,10 @@ class BitFieldValueDef : public BitFieldDef {
         return readRawSlow(buffer);
     }
     // Stores the low bits of `raw` in the field's ranges.
-    // Stores the low bits of `raw` in the field's ranges.
     void writeRaw(BitBuffer buffer, std::uint64_t raw) const noexcept;
 
-    // What the listing prints around the value: the name and ": ", and a blank and the
-    // units (empty without units); both copied in chunks.
-    [[nodiscard]] const Text::PaddedText& label() const noexcept { return label_; }
+    // What the listing prints after the value: a blank and the units (empty without
+    // units), copied in chunks.
     [[nodiscard]] const Text::PaddedText& unitsSuffix() const noexcept { return unitsSuffix_; }
     // Hex digits of the raw part: ceil(bits / 4), at most 17.
     [[nodiscard]] int hexDigits() const noexcept { return hexDigits_; }
@@ -57,8 +57,15 @@ class BitFieldValueDef : public BitFieldDef {
   private:
     [[nodiscard]] std::uint64_t readRawSlow(ConstBitBuffer buffer) const noexcept;
     static std::uint64_t loadBigEndian64(const std::uint8_t* p) noexcept {
+#if defined(__GNUC__) || defined(__clang__)
+        if constexpr (std::endian::native == std::endian::little) {
+            std::uint64_t v = 0;
+            std::memcpy(&v, p, sizeof v);
+            return __builtin_bswap64(v);
+        }
+#endif
         std::uint64_t v = 0;
-        for (int i = 0; i < 8; ++i) {  // one load and a byte swap once optimised
+        for (int i = 0; i < 8; ++i) {
             v = (v << 8) | p[i];
         }
         return v;
@@ -70,7 +77,6 @@ class BitFieldValueDef : public BitFieldDef {
     std::int32_t firstByte_ = 0;
     std::int32_t windowShift_ = 0;
     int hexDigits_;
-    Text::PaddedText label_;
     Text::PaddedText unitsSuffix_;
 };
 

@@ -8,8 +8,7 @@ namespace ZeltNavMsg {
 
 BitStructDef::BitStructDef(BitStructDef* parent, std::string name, std::vector<BitRange> ranges,
                            const Modifiers& modifiers)
-    : BitFieldDef(parent, std::move(name), std::move(ranges), modifiers, true),
-      heading_(BitFieldDef::name()) {}
+    : BitFieldDef(parent, std::move(name), std::move(ranges), modifiers, true) {}
 
 void BitStructDef::addChild(const BitFieldDef* child) {
     // After every child of the same or a lower order: equal orders keep declaration order.

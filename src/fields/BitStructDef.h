@@ -8,7 +8,6 @@
 
 #include "bits/BinArray.h"
 #include "fields/BitFieldDef.h"
-#include "text/PaddedText.h"
 
 namespace ZeltNavMsg {
 
@@ -32,8 +31,6 @@ class BitStructDef : public BitFieldDef {
     [[nodiscard]] std::span<const BitFieldDef* const> children() const noexcept {
         return children_;
     }
-    // The heading the listing prints: the name, copied in chunks.
-    [[nodiscard]] const Text::PaddedText& heading() const noexcept { return heading_; }
 
     using BitFieldDef::makeReadableDescription;
     // Description of `def` over the N bits of `bits`, at level 0.
@@ -49,7 +46,6 @@ class BitStructDef : public BitFieldDef {
     void removeChild(const BitFieldDef* child) noexcept;
 
     std::vector<const BitFieldDef*> children_;
-    Text::PaddedText heading_;
 };
 
 // A structure whose variant is the unsigned value of one of its own fields.

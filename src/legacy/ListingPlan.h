@@ -34,44 +34,49 @@ struct PlannedSegment {
 // The number printed after the optional hex part.
 enum class PlannedValue : std::uint8_t {
     None,
-    Unsigned,        // " %lu"
-    Signed,          // " %ld" of the sign-extended value
-    ScaledUnsigned,  // " %g" of value x scale
-    ScaledSigned,    // " %g" of the sign-extended value x scale
+    Unsigned,           // " %lu"
+    Signed,             // " %ld" of the sign-extended value
+    ScaledUnsigned,     // " %g" of value x scale
+    ScaledSigned,       // " %g" of the sign-extended value x scale
+    UnsignedCharacter,  // " %lu", then " '%c'" of the low byte
+    Character,          // " '%c'" of the low byte alone
 };
 
 struct PlannedLine {
     // Every piece of a line is formatted into a 64-byte buffer, so "%20s:" keeps at
-    // most 63 characters.
+    // most 63 characters, and " 0x%0*X" at most 60 digits.
     static constexpr std::size_t kMaxPiece = 63;
+    static constexpr int kMaxShownHexDigits = 60;
     // Hex digits are counted up to this many: beyond 60 only zeros survive the cut.
     static constexpr int kMaxHexDigits = 68;
     static constexpr std::size_t kShortUnits = 32;
-    // Room a line takes in the output buffer, long units aside: an empty line
-    // before it, the label and hex pieces (each at most 63 characters, copied in
-    // 32-byte blocks), a blank and a number, a quoted character with a line end
-    // inside, 32 bytes of units and the line end (two bytes stored each).
-    static constexpr std::size_t kRoom = 2 + 64 + 3 + kMaxHexDigits + 24 + 6 + kShortUnits + 2;
+    // The label is copied in blocks of this many characters.
+    static constexpr std::size_t kLabelBlock = 32;
 
-    char label[64] = {};              // "%20s:" of the name
+    // "%20s:" of the name, then " 0x" when the line has a hex part: one copy.
+    char label[3 * kLabelBlock] = {};
     char units[kShortUnits] = {};     // " " and the units, when that fits
     const char* longUnits = nullptr;  // the units text when " units" does not fit
     double scale = 0.0;
     std::int32_t width = 0;  // sum of the eight segment lengths
     std::int32_t group = 0;
     std::uint16_t unitsLength = 0;  // of " units"; 0 without units
-    std::uint8_t labelLength = 0;
-    std::uint8_t hexDigits = 0;  // 0: no hex part
+    std::uint8_t labelLength = 0;   // " 0x" included
+    std::uint8_t nameLength = 0;    // "%20s:" alone
+    std::uint8_t hexDigits = 0;     // 0: no hex part
+    std::uint8_t shownHexDigits = 0;
     PlannedValue value = PlannedValue::None;
-    bool showCharacter = false;  // " '%c'" after the number
     std::uint8_t segmentCount = 0;
     std::uint16_t entry = 0;  // index of the table entry
+    std::uint16_t lineRoom = 0;
     PlannedSegment segments[SubframeFieldInfo::kMaxSegments] = {};
 
-    // Room for this line, long units included.
-    [[nodiscard]] constexpr std::size_t room() const {
-        return kRoom + (longUnits != nullptr ? unitsLength : 0U);
-    }
+    // Room the line takes in the output buffer, what the writers store past the text
+    // included: a line end before it (a change of group), the label's blocks, the hex
+    // digits (16 bytes stored up to 16 digits), a blank and a number ("%g" stores 16
+    // bytes), a quoted character with a line end inside, the units and the line end
+    // (two bytes stored each).
+    [[nodiscard]] constexpr std::size_t room() const { return lineRoom; }
 };
 
 // Neighbouring lines printed under the same condition.
@@ -82,13 +87,42 @@ struct PlannedRun {
     std::uint16_t first = 0;
     std::uint16_t count = 0;
     bool rawPass = false;
-    bool printed = true;  // false for parity and reserved entries, which only records show
+    bool printed = true;     // false for parity and reserved entries, which only records show
+    std::uint32_t room = 0;  // of its lines
+};
+
+// Which runs a subframe and layout select, as bit masks over at most 64 runs: those
+// of layout 0 (every subframe), those of the subframe without a page, and those of
+// the layout. A table whose runs do not fit the masks is scanned instead.
+struct RunIndex {
+    static constexpr std::int32_t kSubframes = 8;  // subframe numbers 0 ... 7
+
+    bool indexed = false;
+    std::uint64_t rawPass = 0;
+    std::uint64_t printed = 0;
+    std::uint64_t bySubframe[kSubframes] = {};  // runs of subframe s without a page
+    std::span<const std::uint64_t> byLayout;    // by layout id
+
+    // The runs the selection rule (SubframeIf::selected) takes for the record's
+    // subframe number and layout.
+    [[nodiscard]] constexpr std::uint64_t selected(std::int32_t subframe,
+                                                   std::int32_t layoutId) const noexcept {
+        std::uint64_t runs = byLayout[0];
+        if (subframe >= 0 && subframe < kSubframes) {
+            runs |= bySubframe[subframe];
+        }
+        if (layoutId > 0 && static_cast<std::size_t>(layoutId) < byLayout.size()) {
+            runs |= byLayout[static_cast<std::size_t>(layoutId)];
+        }
+        return runs;
+    }
 };
 
 // The plan of one signal's table, as SubframeIf reads it.
 struct ListingPlan {
     std::span<const PlannedLine> lines;
     std::span<const PlannedRun> runs;
+    RunIndex index;
 };
 
 namespace Planning {
@@ -136,7 +170,7 @@ constexpr PlannedLine planLine(const SubframeFieldInfo& field) {
     if (n < PlannedLine::kMaxPiece) {
         line.label[n++] = ':';
     }
-    line.labelLength = static_cast<std::uint8_t>(n);
+    line.nameLength = static_cast<std::uint8_t>(n);
 
     if (field.units != nullptr) {
         const std::size_t unitsLength = Planning::length(field.units);
@@ -174,12 +208,21 @@ constexpr PlannedLine planLine(const SubframeFieldInfo& field) {
         const std::int64_t digits = (std::int64_t{width} + 3) / 4;
         line.hexDigits = static_cast<std::uint8_t>(
             digits > PlannedLine::kMaxHexDigits ? PlannedLine::kMaxHexDigits : digits);
+        line.shownHexDigits = static_cast<std::uint8_t>(
+            digits > PlannedLine::kMaxShownHexDigits ? PlannedLine::kMaxShownHexDigits : digits);
+        line.label[n++] = ' ';
+        line.label[n++] = '0';
+        line.label[n++] = 'x';
     }
+    line.labelLength = static_cast<std::uint8_t>(n);
     const bool integerShown = (field.flags & kValueOnlyIfOneBit) == 0 || width == 1;
     switch (field.valueType) {
         case kUnsigned:
             line.value = integerShown ? PlannedValue::Unsigned : PlannedValue::None;
-            line.showCharacter = (field.flags & kShowCharacter) != 0 && width <= 8;
+            if ((field.flags & kShowCharacter) != 0 && width <= 8) {  // " '%c'" follows
+                line.value =
+                    integerShown ? PlannedValue::UnsignedCharacter : PlannedValue::Character;
+            }
             break;
         case kSigned:
             line.value = integerShown ? PlannedValue::Signed : PlannedValue::None;
@@ -193,6 +236,13 @@ constexpr PlannedLine planLine(const SubframeFieldInfo& field) {
         default:
             break;
     }
+    const std::size_t labelBlocks =
+        (n + PlannedLine::kLabelBlock - 1) / PlannedLine::kLabelBlock * PlannedLine::kLabelBlock;
+    const std::size_t unitsRoom =
+        line.longUnits != nullptr ? line.unitsLength : PlannedLine::kShortUnits;
+    line.lineRoom = static_cast<std::uint16_t>(
+        2 + (labelBlocks > 0 ? labelBlocks : PlannedLine::kLabelBlock) +
+        (line.hexDigits > 16 ? line.hexDigits : 16) + 1 + 16 + 5 + unitsRoom + 2);
     return line;
 }
 
@@ -208,10 +258,14 @@ struct ListingPlanData {
     std::array<PlannedRun, N> runs{};
     std::size_t lineCount = 0;
     std::size_t runCount = 0;
+    RunIndex index;
+    std::array<std::uint64_t, N + 1> byLayout{};  // layout ids 0 ... N
 
     [[nodiscard]] constexpr ListingPlan plan() const {
+        RunIndex view = index;
+        view.byLayout = std::span<const std::uint64_t>(byLayout.data(), byLayout.size());
         return {std::span<const PlannedLine>(lines.data(), lineCount),
-                std::span<const PlannedRun>(runs.data(), runCount)};
+                std::span<const PlannedRun>(runs.data(), runCount), view};
     }
 };
 
@@ -245,6 +299,30 @@ constexpr ListingPlanData<N> planListing(const std::array<SubframeFieldInfo, N>&
         line = planLine(field);
         line.entry = static_cast<std::uint16_t>(i);
         ++run->count;
+        run->room += line.lineRoom;
+    }
+
+    // The masks, when every run fits them.
+    bool fits = data.runCount <= 64;
+    for (std::size_t r = 0; r < data.runCount && fits; ++r) {
+        const PlannedRun& run = data.runs[r];
+        fits = run.layoutId >= 0 && static_cast<std::size_t>(run.layoutId) <= N &&
+               (run.page != 0 || (run.subframe >= 0 && run.subframe < RunIndex::kSubframes));
+    }
+    data.index.indexed = fits;
+    for (std::size_t r = 0; r < data.runCount && fits; ++r) {
+        const PlannedRun& run = data.runs[r];
+        const std::uint64_t bit = std::uint64_t{1} << r;
+        data.byLayout[static_cast<std::size_t>(run.layoutId)] |= bit;
+        if (run.page == 0) {
+            data.index.bySubframe[run.subframe] |= bit;
+        }
+        if (run.rawPass) {
+            data.index.rawPass |= bit;
+        }
+        if (run.printed) {
+            data.index.printed |= bit;
+        }
     }
     return data;
 }

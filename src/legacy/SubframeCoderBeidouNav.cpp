@@ -1,6 +1,7 @@
 #include "legacy/SubframeCoderBeidouNav.h"
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstring>
 
@@ -22,6 +23,35 @@ std::uint32_t readWord(const std::uint8_t* data, int index) noexcept {
         bits |= std::uint64_t{data[byte + b]} << (32 - 8 * b);
     }
     return static_cast<std::uint32_t>(bits >> (10 - index % 8)) & 0x3FFFFFFFU;
+}
+
+// Eight bytes, the first most significant, and back: one load or store and a byte
+// swap.
+std::uint64_t load64(const std::uint8_t* p) noexcept {
+#if defined(__GNUC__) || defined(__clang__)
+    if constexpr (std::endian::native == std::endian::little) {
+        std::uint64_t v = 0;
+        std::memcpy(&v, p, sizeof v);
+        return __builtin_bswap64(v);
+    }
+#endif
+    std::uint64_t v = 0;
+    for (int i = 0; i < 8; ++i) {
+        v = (v << 8) | p[i];
+    }
+    return v;
+}
+void store64(std::uint8_t* p, std::uint64_t v) noexcept {
+#if defined(__GNUC__) || defined(__clang__)
+    if constexpr (std::endian::native == std::endian::little) {
+        v = __builtin_bswap64(v);
+        std::memcpy(p, &v, sizeof v);
+        return;
+    }
+#endif
+    for (int i = 7; i >= 0; --i, v >>= 8) {
+        p[i] = static_cast<std::uint8_t>(v & 0xFFU);
+    }
 }
 
 constexpr std::int32_t wordStart(int word) {
@@ -53,14 +83,25 @@ constexpr std::uint32_t syndromeStep(std::uint32_t state, std::uint32_t bit) {
     return (r2 << 3) | (r1 << 2) | ((r0 | d) << 1) | (bit | d);
 }
 
-// The registers clocked over five codeword bits at once, least significant first:
-// kSyndromeChunk[state][bits] is the state afterwards. Three lookups cover 15 bits.
-constexpr auto kSyndromeChunk = [] {
-    std::array<std::array<std::uint8_t, 32>, 16> table{};
+// The registers clocked from zero over the low eight codeword bits, least significant
+// first, and then from each state over the high seven: two lookups cover 15 bits.
+constexpr auto kSyndromeLow = [] {
+    std::array<std::uint8_t, 256> table{};
+    for (std::uint32_t bits = 0; bits < 256; ++bits) {
+        std::uint32_t s = 0;
+        for (int i = 0; i < 8; ++i) {
+            s = syndromeStep(s, (bits >> i) & 1U);
+        }
+        table[bits] = static_cast<std::uint8_t>(s);
+    }
+    return table;
+}();
+constexpr auto kSyndromeHigh = [] {
+    std::array<std::array<std::uint8_t, 128>, 16> table{};
     for (std::uint32_t state = 0; state < 16; ++state) {
-        for (std::uint32_t bits = 0; bits < 32; ++bits) {
+        for (std::uint32_t bits = 0; bits < 128; ++bits) {
             std::uint32_t s = state;
-            for (int i = 0; i < 5; ++i) {
+            for (int i = 0; i < 7; ++i) {
                 s = syndromeStep(s, (bits >> i) & 1U);
             }
             table[state][bits] = static_cast<std::uint8_t>(s);
@@ -75,15 +116,30 @@ constexpr std::uint32_t kErrorPattern[16] = {
     0x0008, 0x4000, 0x0200, 0x0080, 0x0040, 0x2000, 0x0800, 0x1000,
 };
 
-// Bits 0, 2, 4, ... of `x` packed into the low 16 bits.
-constexpr std::uint32_t evenBits(std::uint32_t x) {
-    x &= 0x55555555U;
-    x = (x | (x >> 1)) & 0x33333333U;
-    x = (x | (x >> 2)) & 0x0F0F0F0FU;
-    x = (x | (x >> 4)) & 0x00FF00FFU;
-    x = (x | (x >> 8)) & 0x0000FFFFU;
-    return x;
-}
+// The bit each syndrome sets, or none.
+constexpr auto kCorrection = [] {
+    std::array<std::uint32_t, 16> table{};
+    for (std::size_t s = 0; s < table.size(); ++s) {
+        table[s] = kErrorPattern[s] != 0 ? 1U << ((kErrorPattern[s] - 1U) % 32U) : 0U;
+    }
+    return table;
+}();
+
+// For each byte, its bits at even positions (6, 4, 2, 0) in the low half and those at
+// odd positions (7, 5, 3, 1) in the high half, each as a nibble in the same order.
+constexpr auto kSplitByte = [] {
+    std::array<std::uint32_t, 256> table{};
+    for (std::uint32_t b = 0; b < 256; ++b) {
+        std::uint32_t even = 0;
+        std::uint32_t odd = 0;
+        for (int i = 0; i < 4; ++i) {
+            even |= ((b >> (2 * i)) & 1U) << i;
+            odd |= ((b >> (2 * i + 1)) & 1U) << i;
+        }
+        table[b] = even | (odd << 16);
+    }
+    return table;
+}();
 
 // The low 16 bits of `x` spread to bits 0, 2, 4, ...
 constexpr std::uint32_t spreadBits(std::uint32_t x) {
@@ -98,15 +154,9 @@ constexpr std::uint32_t spreadBits(std::uint32_t x) {
 }  // namespace
 
 std::uint16_t SubframeCoderBeidouNav::BchDecode(std::uint16_t codeword) noexcept {
-    std::uint32_t c = codeword;
-    std::uint32_t s = kSyndromeChunk[0][c & 31U];
-    s = kSyndromeChunk[s][(c >> 5) & 31U];
-    s = kSyndromeChunk[s][(c >> 10) & 31U];
-    const std::uint32_t pattern = kErrorPattern[s];
-    if (pattern != 0) {
-        c |= 1U << ((pattern - 1U) % 32U);
-    }
-    return static_cast<std::uint16_t>((c >> 4) & kInfoMask);
+    const std::uint32_t c = codeword;
+    const std::uint32_t s = kSyndromeHigh[kSyndromeLow[c & 0xFFU]][(c >> 8) & 0x7FU];
+    return static_cast<std::uint16_t>(((c | kCorrection[s]) >> 4) & kInfoMask);
 }
 
 std::uint16_t SubframeCoderBeidouNav::BchEncode(std::uint16_t info) noexcept {
@@ -124,8 +174,11 @@ std::uint16_t SubframeCoderBeidouNav::BchEncode(std::uint16_t info) noexcept {
 
 SubframeCoderBeidouNav::CodewordPair SubframeCoderBeidouNav::DeinterleaveWord(
     std::uint32_t word) noexcept {
-    return {static_cast<std::uint16_t>(evenBits(word >> 1)),
-            static_cast<std::uint16_t>(evenBits(word))};
+    // Byte by byte: the first codeword takes the odd bit positions, the second the even.
+    const std::uint32_t split = kSplitByte[word & 0xFFU] | (kSplitByte[(word >> 8) & 0xFFU] << 4) |
+                                (kSplitByte[(word >> 16) & 0xFFU] << 8) |
+                                (kSplitByte[word >> 24] << 12);
+    return {static_cast<std::uint16_t>(split >> 16), static_cast<std::uint16_t>(split & 0xFFFFU)};
 }
 
 std::uint32_t SubframeCoderBeidouNav::InterleaveWord(std::uint32_t first,
@@ -177,6 +230,23 @@ inline std::uint32_t decodeWord(std::uint32_t received) noexcept {
 }  // namespace
 
 bool SubframeCoderBeidouNav::Decode(subframe_t& sf) const {
+    if (sf.bitCount >= 300) {
+        // Every word fits: read the ten words from a padded copy, OR the decoded ones
+        // into a cleared subframe and copy it back, bits past word 10 as they were.
+        std::uint8_t in[48] = {};
+        std::uint8_t out[48] = {};
+        std::memcpy(in, sf.data, sizeof sf.data);
+        for (int w = 0; w < kWords; ++w) {
+            const int at = 30 * w;
+            const std::uint32_t word =
+                static_cast<std::uint32_t>(load64(in + at / 8) >> (34 - at % 8)) & 0x3FFFFFFFU;
+            const std::uint32_t decoded = w == 0 ? decodeFirstWord(word) : decodeWord(word);
+            store64(out + at / 8, load64(out + at / 8) | (std::uint64_t{decoded} << (34 - at % 8)));
+        }
+        out[37] = static_cast<std::uint8_t>((out[37] & 0xF0U) | (sf.data[37] & 0x0FU));
+        std::memcpy(sf.data, out, sizeof sf.data);
+        return false;
+    }
     bool failed = WriteWord(sf, wordStart(0), decodeFirstWord(readWord(sf.data, 0)));
     for (int w = 1; w < kWords; ++w) {
         failed =

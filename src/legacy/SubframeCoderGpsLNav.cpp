@@ -44,6 +44,22 @@ bool SubframeCoderGpsLNav::Encode(subframe_t& sf) const {
 }
 
 bool SubframeCoderGpsLNav::Decode(subframe_t& sf) const {
+    if (sf.bitCount >= 300) {
+        // Every word fits: invert d1 ... d24 of each word whose predecessor ends in 1,
+        // in place as four bytes. The inversion never touches a D30*, so the later
+        // words still see their predecessors as received.
+        for (int w = 1; w < 10; ++w) {
+            const int first = 30 * w;  // d1 of word w+1, counted from 0
+            if (((sf.data[(first - 1) / 8] >> (7 - (first - 1) % 8)) & 1U) != 0) {
+                std::uint8_t* const bytes = sf.data + first / 8;
+                const std::uint32_t mask = 0xFFFFFF00U >> (first % 8);
+                for (int i = 0; i < 4; ++i) {
+                    bytes[i] = static_cast<std::uint8_t>(bytes[i] ^ (mask >> (24 - 8 * i)));
+                }
+            }
+        }
+        return false;
+    }
     std::uint32_t previous = 0;  // as received: the decision never uses a corrected word
     bool failed = false;
     for (int w = 0; w < 10; ++w) {

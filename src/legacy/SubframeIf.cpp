@@ -67,29 +67,39 @@ std::uint32_t readValue(const PlannedLine& line, const std::uint8_t* bits) noexc
     return static_cast<std::uint32_t>(value);
 }
 
-// Output room is taken this much at a time: small enough that a listing stays in the
-// TextBuffer's inline storage, large enough for a pass or two.
-constexpr std::size_t kRoomChunk = 2048;
+// The output's line end, held in registers through a run.
+struct LineEnd {
+    char chars[2];
+    std::size_t size;
+
+    explicit LineEnd(const Text::TextBuffer& out) noexcept
+        : chars{out.lineEnd()[0], out.lineEnd().size() > 1 ? out.lineEnd()[1] : '\0'},
+          size(out.lineEnd().size()) {}
+    char* put(char* p) const noexcept {
+        std::memcpy(p, chars, 2);
+        return p + size;
+    }
+};
 
 // Writes the line at `p`, where line.room() characters may be stored, and returns
-// its end. `out` gives the line end.
-inline char* writeLine(char* p, const PlannedLine& line, const std::uint8_t* bits,
-                       const Text::TextBuffer& out) noexcept {
-    std::memcpy(p, line.label, 32);
-    if (line.labelLength > 32) {
-        std::memcpy(p + 32, line.label + 32, 32);
+// its end.
+[[gnu::always_inline]] inline char* writeLine(char* p, const PlannedLine& line,
+                                              const std::uint8_t* bits,
+                                              const LineEnd lineEnd) noexcept {
+    // The label and " 0x" in blocks: most take one.
+    std::memcpy(p, line.label, PlannedLine::kLabelBlock);
+    if (line.labelLength > PlannedLine::kLabelBlock) [[unlikely]] {
+        std::memcpy(p + PlannedLine::kLabelBlock, line.label + PlannedLine::kLabelBlock,
+                    sizeof line.label - PlannedLine::kLabelBlock);
     }
     p += line.labelLength;
 
     const std::uint32_t value = readValue(line, bits);
     if (line.hexDigits != 0) {
-        char* const piece = p;
-        static constexpr char kHexPrefix[3] = {' ', '0', 'x'};  // not a C string
-        std::memcpy(p, kHexPrefix, sizeof kHexPrefix);
-        p = Text::writeHex(p + sizeof kHexPrefix, value, line.hexDigits);
-        if (static_cast<std::size_t>(p - piece) > PlannedLine::kMaxPiece) {
-            p = piece + PlannedLine::kMaxPiece;
-        }
+        // A hex piece longer than the 63 characters of its buffer is cut; the digit
+        // count covers the 32-bit value (ceil(width / 4), at least 9 above 32 bits).
+        Text::writeHexDigits(p, value, line.hexDigits);
+        p += line.shownHexDigits;
     }
     switch (line.value) {
         case PlannedValue::None:
@@ -110,39 +120,42 @@ inline char* writeLine(char* p, const PlannedLine& line, const std::uint8_t* bit
             *p++ = ' ';
             p = Text::writeG(p, static_cast<double>(signExtend(value, line.width)) * line.scale);
             break;
-    }
-    if (line.showCharacter) {
-        // " '%c'" appended as a C string: a NUL character ends the piece, and a line
-        // feed is a line end like any other.
-        const auto c = static_cast<char>(value & 0xFFU);
-        *p++ = ' ';
-        *p++ = '\'';
-        if (c == '\n') {
-            p = out.putLineEnd(p);
+        case PlannedValue::UnsignedCharacter:
+        case PlannedValue::Character: {
+            if (line.value == PlannedValue::UnsignedCharacter) {
+                *p++ = ' ';
+                p = Text::writeUnsigned(p, value);
+            }
+            // " '%c'" appended as a C string: a NUL character ends the piece, and a line
+            // feed is a line end like any other.
+            const auto c = static_cast<char>(value & 0xFFU);
+            *p++ = ' ';
             *p++ = '\'';
-        } else if (c != '\0') {
-            *p++ = c;
-            *p++ = '\'';
+            if (c == '\n') {
+                p = lineEnd.put(p);
+                *p++ = '\'';
+            } else if (c != '\0') {
+                *p++ = c;
+                *p++ = '\'';
+            }
+            break;
         }
     }
-    if (line.unitsLength != 0) {
-        if (line.longUnits == nullptr) {
-            std::memcpy(p, line.units, PlannedLine::kShortUnits);
-        } else {
-            *p = ' ';
-            std::memcpy(p + 1, line.longUnits, line.unitsLength - 1U);
-        }
-        p += line.unitsLength;
+    if (line.longUnits == nullptr) [[likely]] {  // " units" or nothing, as one block
+        std::memcpy(p, line.units, PlannedLine::kShortUnits);
+    } else {
+        *p = ' ';
+        std::memcpy(p + 1, line.longUnits, line.unitsLength - 1U);
     }
-    return out.putLineEnd(p);
+    return lineEnd.put(p + line.unitsLength);
 }
 
 }  // namespace
 
 void appendLineValue(const PlannedLine& line, const std::uint8_t* bits, Text::TextBuffer& out) {
     char* const p = out.reserve(line.room());
-    const char* end = writeLine(p, line, bits, out) - out.lineEnd().size();
-    const char* value = p + line.labelLength;
+    const char* end = writeLine(p, line, bits, LineEnd(out)) - out.lineEnd().size();
+    const char* value = p + line.nameLength;
     if (value < end && *value == ' ') {
         ++value;
     }
@@ -183,34 +196,27 @@ void SubframeIf::DescribeFields(Text::TextBuffer& out, const subframe_t& sf,
                     p = out.putLineEnd(p);
                     group = line.group;
                 }
-                out.commit(writeLine(p, line, bits, out));
+                out.commit(writeLine(p, line, bits, LineEnd(out)));
             }
         }
         return;
     }
 
-    // Lines are written straight into room taken from `out` a few kilobytes at a time.
-    char* p = nullptr;
-    char* roomEnd = nullptr;
-    forEachLine(sf, layoutId, rawPass, false, [&](std::size_t, const PlannedLine& line) {
-        const std::size_t room = line.room();
-        if (static_cast<std::size_t>(roomEnd - p) < room) {
-            if (p != nullptr) {
-                out.commit(p);
+    // Each run's lines are written straight into room taken from `out` once.
+    const LineEnd lineEnd(out);
+    forEachRun(sf, layoutId, rawPass, false, [&](const PlannedRun& run) {
+        char* p = out.reserve(run.room);
+        std::int32_t runGroup = group;
+        for (const PlannedLine& line : plan_->lines.subspan(run.first, run.count)) {
+            if (line.group != runGroup) {
+                p = lineEnd.put(p);
+                runGroup = line.group;
             }
-            const std::size_t chunk = std::max(room, kRoomChunk);
-            p = out.reserve(chunk);
-            roomEnd = p + chunk;
+            p = writeLine(p, line, bits, lineEnd);
         }
-        if (line.group != group) {
-            p = out.putLineEnd(p);
-            group = line.group;
-        }
-        p = writeLine(p, line, bits, out);
-    });
-    if (p != nullptr) {
+        group = runGroup;
         out.commit(p);
-    }
+    });
 }
 
 void SubframeIf::describe(Text::TextBuffer& out, const subframe_t& sf, DecodingMode mode) const {

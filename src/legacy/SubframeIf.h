@@ -1,6 +1,7 @@
 #ifndef ZELTNAVMSG_LEGACY_SUBFRAMEIF_H
 #define ZELTNAVMSG_LEGACY_SUBFRAMEIF_H
 
+#include <bit>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -50,22 +51,40 @@ class SubframeIf {
     }
     [[nodiscard]] const ListingPlan* plan() const noexcept { return plan_; }
 
-    // Calls fn(lineIndex, line) for each planned line of one pass that applies to the
-    // record's subframe and page (layout `layoutId`), in listing order; the printed
-    // lines only, or every planned line when `withUnprinted`. The one selection rule
-    // of the listing and of the records. Needs a plan.
+    // Calls fn(run) for each planned run of one pass that applies to the record's
+    // subframe and page (layout `layoutId`), in listing order; the printed runs only,
+    // or every planned run when `withUnprinted`. The one selection rule of the listing
+    // and of the records. Needs a plan.
+    template <class Fn>
+    void forEachRun(const subframe_t& sf, std::int32_t layoutId, bool rawPass, bool withUnprinted,
+                    Fn&& fn) const {
+        const RunIndex& index = plan_->index;
+        if (index.indexed) {
+            std::uint64_t runs = index.selected(sf.subframe, layoutId) &
+                                 (rawPass ? index.rawPass : ~index.rawPass) &
+                                 (withUnprinted ? ~std::uint64_t{0} : index.printed);
+            for (; runs != 0; runs &= runs - 1) {
+                fn(plan_->runs[static_cast<std::size_t>(std::countr_zero(runs))]);
+            }
+            return;
+        }
+        for (const PlannedRun& run : plan_->runs) {
+            if (run.rawPass == rawPass && (run.printed || withUnprinted) &&
+                selected(sf, layoutId, run.layoutId, run.subframe, run.page)) {
+                fn(run);
+            }
+        }
+    }
+
+    // Calls fn(lineIndex, line) for each planned line of the runs forEachRun selects.
     template <class Fn>
     void forEachLine(const subframe_t& sf, std::int32_t layoutId, bool rawPass, bool withUnprinted,
                      Fn&& fn) const {
-        for (const PlannedRun& run : plan_->runs) {
-            if (run.rawPass != rawPass || (!run.printed && !withUnprinted) ||
-                !selected(sf, layoutId, run.layoutId, run.subframe, run.page)) {
-                continue;
-            }
+        forEachRun(sf, layoutId, rawPass, withUnprinted, [&](const PlannedRun& run) {
             for (std::size_t i = run.first; i < std::size_t{run.first} + run.count; ++i) {
                 fn(i, plan_->lines[i]);
             }
-        }
+        });
     }
 
     // A subframe without pages is matched by its number alone; a paged entry needs the

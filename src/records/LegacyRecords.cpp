@@ -5,7 +5,9 @@
 #include <bit>
 #include <cstring>
 #include <deque>
+#include <map>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -50,6 +52,19 @@ struct LegacyPart {
 struct LegacyLine {
     std::uint32_t firstPart = 0;
     std::uint32_t partCount = 0;
+};
+
+// One record of a selection, laid out for the records' loop: its field, its value
+// rule and its first piece; a record of several pieces reads its part.
+struct Reader {
+    const FieldInfo* info = nullptr;
+    double scale = 1.0;
+    Piece piece;
+    std::uint8_t pieceCount = 0;
+    std::uint8_t unused = 0;  // 64 - width: the sign extension of a signed value
+    bool isSigned = false;
+    bool wide = false;  // 64 bits: converted as unsigned
+    std::uint32_t part = 0;
 };
 
 // The record's value: the document's number (two's complement or unsigned) times
@@ -136,31 +151,56 @@ class LegacyPlan {
                 Legacy::subframe_t sf;
                 sf.subframe = subframe;
                 Selection& selection = selections_.emplace_back();
-                selection.first = static_cast<std::uint32_t>(selected_.size());
+                selection.first = static_cast<std::uint32_t>(readers_.size());
                 for (const bool rawPass : {true, false}) {
                     signal.forEachLine(sf, layout, rawPass, true,
                                        [&](std::size_t i, const PlannedLine&) {
                                            const LegacyLine& line = lines_[i];
                                            for (std::uint32_t p = 0; p < line.partCount; ++p) {
-                                               selected_.push_back(line.firstPart + p);
+                                               readers_.push_back(readerOf(line.firstPart + p));
                                            }
                                        });
                     if (rawPass) {
                         selection.rawCount =
-                            static_cast<std::uint32_t>(selected_.size()) - selection.first;
+                            static_cast<std::uint32_t>(readers_.size()) - selection.first;
                     }
                 }
-                selection.count = static_cast<std::uint32_t>(selected_.size()) - selection.first;
+                selection.count = static_cast<std::uint32_t>(readers_.size()) - selection.first;
             }
         }
         svIdLines_[0] = findLine(4, "sv_id");
         svIdLines_[1] = findLine(5, "sv_id");
+        // The layout names of subframes 1-5 and pages 0 ... kNamedPages - 1, once each.
+        std::map<std::string, std::size_t> nameIndex;
+        for (std::int32_t subframe = 1; subframe <= kSubframes; ++subframe) {
+            for (std::int32_t page = 0; page < kNamedPages; ++page) {
+                Legacy::subframe_t sf;
+                sf.subframe = subframe;
+                sf.page = page;
+                std::string name;
+                appendLegacyLayout(format, subframe, page, signal.GetLayoutId(sf), -1, name);
+                const auto [at, added] = nameIndex.emplace(name, names_.size());
+                if (added) {
+                    names_.push_back(name);
+                }
+                nameOf_.push_back(static_cast<std::uint32_t>(at->second));
+            }
+        }
     }
 
-    // The parts the listing's rule selects for the subframe's number and `layoutId`,
-    // raw pass first: `rawCount` of them read the bits as received.
+    // The name of the subframe's layout chosen by its page, when made in advance.
+    [[nodiscard]] const std::string* layoutName(const subframe_t& sf) const noexcept {
+        if (sf.subframe < 1 || sf.subframe > kSubframes || sf.page < 0 || sf.page >= kNamedPages) {
+            return nullptr;
+        }
+        return &names_[nameOf_[static_cast<std::size_t>((sf.subframe - 1) * kNamedPages +
+                                                        sf.page)]];
+    }
+
+    // The records the listing's rule selects for the subframe's number and
+    // `layoutId`, raw pass first: `rawCount` of them read the bits as received.
     struct Parts {
-        std::span<const std::uint32_t> indices;
+        std::span<const Reader> readers;
         std::uint32_t rawCount = 0;
     };
     [[nodiscard]] bool hasSelection(const subframe_t& sf, std::int32_t layoutId) const noexcept {
@@ -172,7 +212,7 @@ class LegacyPlan {
                                (static_cast<std::size_t>(maxLayout_) + 1) +
                            static_cast<std::size_t>(layoutId);
         const Selection& s = selections_[index];
-        return {std::span<const std::uint32_t>(selected_).subspan(s.first, s.count), s.rawCount};
+        return {std::span<const Reader>(readers_).subspan(s.first, s.count), s.rawCount};
     }
 
     void addPart(std::uint32_t index, const std::uint8_t* bits, MessageWriter& writer) const {
@@ -180,11 +220,21 @@ class LegacyPlan {
         const std::uint64_t raw = readPart(part, bits);
         writer.add(part.info, raw, valueOf(part, raw));
     }
-    [[nodiscard]] DecodedField record(std::uint32_t index,
-                                      const std::uint8_t* bits) const noexcept {
-        const LegacyPart& part = parts_[index];
-        const std::uint64_t raw = readPart(part, bits);
-        return {part.info, raw, valueOf(part, raw)};
+    // The record of a selection's reader.
+    void add(const Reader& r, const std::uint8_t* bits, MessageWriter& writer) const {
+        const std::uint64_t raw =
+            r.pieceCount == 1
+                ? (load64(bits + r.piece.byte) << r.piece.shift) >> (64 - r.piece.length)
+                : readPart(parts_[r.part], bits);
+        double value = 0.0;
+        if (r.isSigned) {
+            value = static_cast<double>(static_cast<std::int64_t>(raw << r.unused) >> r.unused);
+        } else {
+            // Below 2^63 unless 64 bits wide: the signed conversion is one instruction.
+            value = r.wide ? static_cast<double>(raw)
+                           : static_cast<double>(static_cast<std::int64_t>(raw));
+        }
+        writer.add(*r.info, raw, value * r.scale);
     }
     void addLine(std::size_t lineIndex, const std::uint8_t* bits, MessageWriter& writer) const {
         const LegacyLine& line = lines_[lineIndex];
@@ -207,6 +257,21 @@ class LegacyPlan {
 
   private:
     static constexpr std::int32_t kSubframes = 5;
+    static constexpr std::int32_t kNamedPages = 128;
+
+    [[nodiscard]] Reader readerOf(std::uint32_t index) const {
+        const LegacyPart& part = parts_[index];
+        Reader r;
+        r.info = &part.info;
+        r.scale = part.rule.scale;
+        r.piece = part.pieces[0];
+        r.pieceCount = part.pieceCount;
+        r.unused = static_cast<std::uint8_t>(64 - part.rule.width);
+        r.isSigned = part.isSigned;
+        r.wide = part.rule.width >= 64;
+        r.part = index;
+        return r;
+    }
 
     struct Selection {
         std::uint32_t first = 0;
@@ -363,7 +428,9 @@ class LegacyPlan {
     std::deque<FieldDetail> details_;  // stays in place as it grows
     std::int32_t maxLayout_ = 0;
     std::vector<Selection> selections_;  // by subframe and layout
-    std::vector<std::uint32_t> selected_;
+    std::vector<Reader> readers_;
+    std::vector<std::string> names_;
+    std::vector<std::uint32_t> nameOf_;  // by subframe and page
     std::int64_t svIdLines_[2] = {-1, -1};
 };
 
@@ -429,12 +496,11 @@ void decodeSubframe(MessageFormat format, const subframe_t& sf, MessageWriter& w
 
     if (plan.hasSelection(sf, layoutId)) {
         const LegacyPlan::Parts parts = plan.selection(sf, layoutId);
-        DecodedField* out = writer.extend(parts.indices.size());
-        for (std::size_t i = 0; i < parts.rawCount; ++i) {
-            *out++ = plan.record(parts.indices[i], writer.received());
+        for (const Reader& r : parts.readers.first(parts.rawCount)) {
+            plan.add(r, writer.received(), writer);
         }
-        for (std::size_t i = parts.rawCount; i < parts.indices.size(); ++i) {
-            *out++ = plan.record(parts.indices[i], writer.bits());
+        for (const Reader& r : parts.readers.subspan(parts.rawCount)) {
+            plan.add(r, writer.bits(), writer);
         }
     } else {
         for (const bool rawPass : {true, false}) {
@@ -444,7 +510,12 @@ void decodeSubframe(MessageFormat format, const subframe_t& sf, MessageWriter& w
             });
         }
     }
-    appendLegacyLayout(format, sf.subframe, sf.page, layoutId, svId, writer.layout());
+    const std::string* name = svId < 0 ? plan.layoutName(sf) : nullptr;
+    if (name != nullptr) {
+        writer.layout().assign(*name);
+    } else {
+        appendLegacyLayout(format, sf.subframe, sf.page, layoutId, svId, writer.layout());
+    }
 }
 
 }  // namespace ZeltNavMsg::Records

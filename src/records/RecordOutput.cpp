@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "records/FieldDetail.h"
+#include "text/NumberText.h"
 
 namespace ZeltNavMsg {
 
@@ -160,6 +161,149 @@ void appendCsvCell(std::string& out, std::string_view s) {
     out.push_back('"');
 }
 
+// Writes JSON text into a buffer on the stack, appended to the string a block at a
+// time: a piece of known bound is copied or formatted at a pointer after one check
+// of the room left, instead of growing the string piece by piece.
+class JsonWriter {
+  public:
+    static constexpr std::size_t kSize = 4096;
+    // Pieces longer than this go to the string directly.
+    static constexpr std::size_t kLong = kSize / 8;
+
+    explicit JsonWriter(std::string& out) noexcept : out_(out) {}
+    JsonWriter(const JsonWriter&) = delete;
+    JsonWriter& operator=(const JsonWriter&) = delete;
+    ~JsonWriter() { flush(); }
+
+    // Makes room for `n` (at most kSize / 2) characters.
+    void room(std::size_t n) {
+        if (static_cast<std::size_t>(buffer_ + kSize - p_) < n) [[unlikely]] {
+            flush();
+        }
+    }
+    [[gnu::noinline]] void flush() {
+        out_.append(buffer_, p_);
+        p_ = buffer_;
+    }
+
+    void put(std::string_view s) {
+        if (s.size() > kLong) [[unlikely]] {
+            putLong(s);
+            return;
+        }
+        room(s.size());
+        std::memcpy(p_, s.data(), s.size());
+        p_ += s.size();
+    }
+    void put(char c) {
+        room(1);
+        *p_++ = c;
+    }
+    void integer(std::int64_t n) {
+        room(kNumber);
+        p_ = Text::writeSigned(p_, n);
+    }
+    void number(double v) {
+        room(kNumber);
+        p_ = Records::writeShortest(p_, v);
+    }
+    // `digits` upper-case hex digits of the low bits of `v` (1 to 16).
+    void hex(std::uint64_t v, std::int32_t digits) {
+        room(kNumber);
+        p_ = Text::writeHexDigits(p_, v, digits < 1 ? 1 : digits > 16 ? 16 : digits);
+    }
+    // A JSON string, escaped as appendJsonString escapes it; eight characters at a
+    // time up to the first that needs an escape.
+    void string(std::string_view s) {
+        if (s.size() > kLong) [[unlikely]] {
+            flush();
+            appendJsonString(out_, s);
+            return;
+        }
+        room(6 * s.size() + 2);
+        *p_++ = '"';
+        while (s.size() >= 8) {
+            std::uint64_t block = 0;
+            std::memcpy(&block, s.data(), 8);
+            if (needsEscape(block)) {
+                break;
+            }
+            std::memcpy(p_, &block, 8);
+            p_ += 8;
+            s.remove_prefix(8);
+        }
+        for (const char ch : s) {
+            const auto c = static_cast<unsigned char>(ch);
+            if (c >= 0x20 && c < 0x80 && c != '"' && c != '\\') {
+                *p_++ = ch;
+                continue;
+            }
+            *p_++ = '\\';
+            switch (c) {
+                case '"':
+                    *p_++ = '"';
+                    break;
+                case '\\':
+                    *p_++ = '\\';
+                    break;
+                case '\n':
+                    *p_++ = 'n';
+                    break;
+                case '\r':
+                    *p_++ = 'r';
+                    break;
+                case '\t':
+                    *p_++ = 't';
+                    break;
+                default:
+                    std::memcpy(p_, "u00", 3);
+                    p_[3] = kHexDigits[c >> 4];
+                    p_[4] = kHexDigits[c & 0xF];
+                    p_ += 5;
+                    break;
+            }
+        }
+        *p_++ = '"';
+    }
+    void bits(std::span<const BitSegment> segments) {
+        put('[');
+        for (std::size_t i = 0; i < segments.size(); ++i) {
+            room(2 * kNumber);
+            put(i == 0 ? std::string_view("[") : std::string_view(",["));
+            p_ = Text::writeSigned(p_, segments[i].first);
+            *p_++ = ',';
+            p_ = Text::writeSigned(p_, segments[i].count);
+            *p_++ = ']';
+        }
+        put(']');
+    }
+
+  private:
+    // What writeShortest, an integer or hex digits take, with what the writers store
+    // past their text.
+    static constexpr std::size_t kNumber = 40;
+
+    [[gnu::noinline]] void putLong(std::string_view s) {
+        flush();
+        out_.append(s);
+    }
+
+    // Whether any of eight bytes is below 0x20, from 0x80 up, '"' or '\\' (exact for
+    // the eight together: no borrow reaches a byte from one that tests true).
+    static constexpr bool needsEscape(std::uint64_t x) noexcept {
+        constexpr std::uint64_t kOnes = 0x0101010101010101U;
+        constexpr std::uint64_t kHigh = 0x8080808080808080U;
+        const auto below = [&](std::uint64_t v, std::uint64_t n) { return (v - kOnes * n) & ~v; };
+        const std::uint64_t quote = x ^ (kOnes * '"');
+        const std::uint64_t backslash = x ^ (kOnes * '\\');
+        return ((below(x, 0x20) | below(quote, 1) | below(backslash, 1) | x) & kHigh) != 0;
+    }
+
+    std::string& out_;
+    char* p_ = buffer_;
+    char buffer_[kSize];
+};
+
 }  // namespace
 
 namespace Records {
@@ -230,34 +374,36 @@ std::string_view MessageFormatName(MessageFormat format) noexcept {
 
 void AppendJsonRecord(std::string& out, const DecodedMessage& message, const RecordContext& context,
                       const RecordOptions& options) {
-    out.push_back('{');
+    JsonWriter json(out);
+
+    json.put('{');
     if (context.line > 0) {
-        out.append("\"line\":");
-        appendInteger(out, context.line);
-        out.push_back(',');
+        json.put("\"line\":");
+        json.integer(context.line);
+        json.put(',');
     }
-    out.append("\"sat\":");
-    appendJsonString(out, context.sat);
+    json.put("\"sat\":");
+    json.string(context.sat);
     if (!context.signal.empty()) {
-        out.append(",\"signal\":");
-        appendJsonString(out, context.signal);
+        json.put(",\"signal\":");
+        json.string(context.signal);
     }
     if (context.hasTime) {
-        out.append(R"(,"time":{"week":)");
-        appendInteger(out, context.week);
-        out.append(",\"tow\":");
-        appendNumber(out, context.tow);
-        out.push_back('}');
+        json.put(R"(,"time":{"week":)");
+        json.integer(context.week);
+        json.put(",\"tow\":");
+        json.number(context.tow);
+        json.put('}');
     }
-    out.append(",\"format\":");
-    appendJsonString(out, MessageFormatName(message.format()));
-    out.append(",\"subframe\":");
-    appendInteger(out, message.subframe());
-    out.append(",\"page\":");
-    appendInteger(out, message.page());
-    out.append(",\"layout\":");
-    appendJsonString(out, message.layout());
-    out.append(",\"fields\":[");
+    json.put(",\"format\":");
+    json.string(MessageFormatName(message.format()));
+    json.put(",\"subframe\":");
+    json.integer(message.subframe());
+    json.put(",\"page\":");
+    json.integer(message.page());
+    json.put(",\"layout\":");
+    json.string(message.layout());
+    json.put(",\"fields\":[");
     bool first = true;
     for (const DecodedField& f : message.fields()) {
         if (!shown(f, options)) {
@@ -265,44 +411,45 @@ void AppendJsonRecord(std::string& out, const DecodedMessage& message, const Rec
         }
         const auto& text = *static_cast<const Records::FieldDetail*>(f.info().detail);
         if (!first) {
-            out.push_back(',');
+            json.put(',');
         }
         first = false;
-        out.append(options.allFields ? text.jsonHeadWithRole : text.jsonHead);
+        json.put(options.allFields ? text.jsonHeadWithRole : text.jsonHead);
         if (f.kind() == ValueKind::Character) {
             char buffer[2];
-            appendJsonString(out, characterOf(f, buffer, false));
+            json.string(characterOf(f, buffer, false));
         } else {
-            appendNumber(out, f.value());
+            json.number(f.value());
         }
-        out.append(text.jsonMid);
-        appendHex(out, f.raw(), (f.bitCount() + 3) / 4);
-        out.append(text.jsonTail);
+        json.put(text.jsonMid);
+        json.hex(f.raw(), (f.bitCount() + 3) / 4);
+        json.put(text.jsonTail);
     }
-    out.append("],\"checks\":[");
+    json.put("],\"checks\":[");
     first = true;
     for (const CheckResult& c : message.checks()) {
-        out.append(first ? "{\"name\":" : ",{\"name\":");
+        json.put(first ? std::string_view("{\"name\":") : std::string_view(",{\"name\":"));
         first = false;
-        appendJsonString(out, c.name);
-        out.append(c.ok() ? ",\"ok\":true" : ",\"ok\":false");
+        json.string(c.name);
+        json.put(c.ok() ? std::string_view(",\"ok\":true") : std::string_view(",\"ok\":false"));
         if (c.status == CheckStatus::Incomplete) {
-            out.append(",\"incomplete\":true");
+            json.put(",\"incomplete\":true");
         }
-        out.append(",\"bits\":");
-        appendJsonBits(out, c.bits);
-        out.append(R"(,"computed":")");
-        appendHex(out, c.computed, (c.checkBits + 3) / 4);
-        out.append(R"(","received":")");
-        appendHex(out, c.received, (c.checkBits + 3) / 4);
-        out.push_back('"');
+        json.put(",\"bits\":");
+        json.bits(c.bits);
+        json.put(R"(,"computed":")");
+        json.hex(c.computed, (c.checkBits + 3) / 4);
+        json.put(R"(","received":")");
+        json.hex(c.received, (c.checkBits + 3) / 4);
+        json.put('"');
         if (c.correctedBit >= 0) {
-            out.append(",\"corrected\":");
-            appendInteger(out, c.correctedBit);
+            json.put(",\"corrected\":");
+            json.integer(c.correctedBit);
         }
-        out.push_back('}');
+        json.put('}');
     }
-    out.append(message.ok() ? "],\"ok\":true}\n" : "],\"ok\":false}\n");
+    json.put(message.ok() ? std::string_view("],\"ok\":true}\n")
+                          : std::string_view("],\"ok\":false}\n"));
 }
 
 void AppendJsonError(std::string& out, std::int64_t line, std::string_view type,

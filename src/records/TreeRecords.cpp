@@ -1,6 +1,6 @@
 #include "records/TreeRecords.h"
 
-#include <array>
+#include <algorithm>
 #include <cmath>
 #include <deque>
 #include <stdexcept>
@@ -9,8 +9,8 @@
 #include "bits/BitUtils.h"
 #include "fields/BitFieldSignedIntDef.h"
 #include "fields/BitFieldUnsignedIntDef.h"
-#include "fields/DescriptionWalker.h"
 #include "fields/ParamModifiers.h"
+#include "fields/TreePlan.h"
 #include "records/Corrections.h"
 #include "records/FieldDetail.h"
 #include "records/LayoutNames.h"
@@ -24,67 +24,54 @@ namespace ZeltNavMsg::Records {
 
 namespace {
 
-// One record of a value definition; a hidden field wider than 64 bits gives several,
-// each of at most 64 bits, read from its own ranges.
-struct TreePart {
+// The record of one slot of the tree's plan: a listed field, or a part of at most 64
+// bits of a hidden one.
+struct RecordSlot {
     FieldInfo info;
     ValueRule rule;
-    std::vector<BitRange> ranges;  // empty: the definition's own readRaw
-    std::size_t firstSegment = 0;
-    std::size_t segmentCount = 0;
-    FieldDetail* detail = nullptr;  // what info.detail points at, while it is filled
 };
 
-struct TreeEntry {
-    std::vector<TreePart> parts;
-};
-
-// Everything about a tree's records that does not depend on the bits, by definition
-// serial. Built once per format on first use, then only read.
-class TreePlan {
+// Everything about a tree's records that does not depend on the bits, by slot of the
+// tree's plan, which the listing walks too. Built once per format on first use, then
+// only read.
+class TreeRecordPlan {
   public:
-    TreePlan(MessageFormat format, const BitStructDef& root, std::int32_t frameBits)
-        : format_(format), root_(root), frameBits_(frameBits) {
-        entries_.resize(static_cast<std::size_t>(root.treeSize()));
-        add(root);
+    TreeRecordPlan(MessageFormat format, const Describe::TreePlan& plan)
+        : format_(format), plan_(plan) {
+        if (plan.readableBytes() > MessageWriter::bitsSize()) {
+            throw std::logic_error("decodeTree: the frame does not fit the message's bits");
+        }
+        slots_.reserve(plan.slots().size());
+        for (const Describe::TreeSlot& slot : plan.slots()) {
+            add(slot);
+        }
         // The segment store is complete: point each record at its part of it.
-        for (TreeEntry& entry : entries_) {
-            for (TreePart& part : entry.parts) {
-                part.info.bits = std::span<const BitSegment>(segments_).subspan(part.firstSegment,
-                                                                                part.segmentCount);
-                describeForOutput(part.info, *part.detail);
-            }
+        for (std::size_t i = 0; i < slots_.size(); ++i) {
+            FieldInfo& info = slots_[i].info;
+            info.bits =
+                std::span<const BitSegment>(segments_).subspan(firstSegments_[i], info.bits.size());
+            describeForOutput(info, details_[i]);
         }
     }
 
-    [[nodiscard]] const TreeEntry& entry(const BitFieldDef& def) const {
-        return entries_[static_cast<std::size_t>(def.serial())];
+    [[nodiscard]] const RecordSlot& slot(std::uint32_t index) const noexcept {
+        return slots_[index];
     }
-    [[nodiscard]] MessageFormat format() const noexcept { return format_; }
-    [[nodiscard]] const BitStructDef& root() const noexcept { return root_; }
-    [[nodiscard]] std::int32_t frameBits() const noexcept { return frameBits_; }
+    [[nodiscard]] const Describe::TreePlan& plan() const noexcept { return plan_; }
 
   private:
-    void add(const BitFieldDef& def) {
-        if (def.isStruct()) {
-            for (const BitFieldDef* child : static_cast<const BitStructDef&>(def).children()) {
-                add(*child);
-            }
-            return;
-        }
-        const auto& field = static_cast<const BitFieldValueDef&>(def);
-        TreeEntry& entry = entries_[static_cast<std::size_t>(def.serial())];
-
+    void add(const Describe::TreeSlot& slot) {
+        const BitFieldValueDef& def = *slot.field;
         FieldInfo info;
         info.path = def.path();
         info.name = def.name();
         info.role = roleOf(def);
-        info.listed = !def.hasFlag(Hidden);
+        info.listed = slot.listed;
 
         // The listing's value: integers by their truncated integer multiplier, reals and
         // flags as read.
         ValueRule rule;
-        rule.format = field.numberFormat();
+        rule.format = def.numberFormat();
         switch (def.fieldKind()) {
             case FieldKind::UnsignedInt:
                 rule.scale = static_cast<double>(truncateToUInt64(def.scaleFactor()));
@@ -123,54 +110,25 @@ class TreePlan {
                 }
             }
         }
+        info.bitCount = slot.width;
+        rule.width = slot.width;
 
-        // At most 64 bits a record: split the ranges of a wider (hidden) field.
-        std::vector<BitRange> part;
-        std::int32_t partBits = 0;
-        const auto flush = [&] {
-            FieldDetail& detail = details_.emplace_back();
-            if (info.listed) {
-                detail.listing.treeField = &field;
-                detail.listing.frameBits = frameBits_;
-            }
-            TreePart p;
-            p.info = info;
-            p.info.detail = &detail;
-            p.detail = &detail;
-            p.info.bitCount = partBits;
-            p.rule = rule;
-            p.rule.width = partBits;
-            detail.rule = p.rule;
-            detail.format = format_;
-            p.firstSegment = segments_.size();
-            for (const BitRange& r : part) {
-                segments_.push_back({r.firstBitIndex(), r.bitsCount()});
-            }
-            p.segmentCount = part.size();
-            if (def.totalBitsCount() > 64) {
-                p.ranges = part;
-            }
-            entry.parts.push_back(std::move(p));
-            part.clear();
-            partBits = 0;
-        };
-        for (const BitRange& range : def.ranges()) {
-            std::int32_t first = range.firstBitIndex();
-            std::int32_t left = range.bitsCount();
-            while (left > 0) {
-                const std::int32_t take = std::min(left, 64 - partBits);
-                part.emplace_back(BitRange::InitializationType::FirstBitAndCount, first, take);
-                partBits += take;
-                first += take;
-                left -= take;
-                if (partBits == 64) {
-                    flush();
-                }
-            }
+        FieldDetail& detail = details_.emplace_back();
+        detail.rule = rule;
+        detail.format = format_;
+        if (info.listed) {
+            detail.listing.treeField = &def;
+            detail.listing.frameBits = plan_.frameBits();
         }
-        if (partBits > 0) {
-            flush();
+        info.detail = &detail;
+        firstSegments_.push_back(segments_.size());
+        for (const BitRange& r : slot.ranges) {
+            segments_.push_back({r.firstBitIndex(), r.bitsCount()});
         }
+        // The size only, until the store is complete.
+        info.bits = std::span<const BitSegment>(static_cast<const BitSegment*>(nullptr),
+                                                slot.ranges.size());
+        slots_.push_back({info, rule});
     }
 
     static FieldRole roleOf(const BitFieldDef& def) {
@@ -181,33 +139,33 @@ class TreePlan {
     }
 
     MessageFormat format_;
-    const BitStructDef& root_;
-    std::int32_t frameBits_;
-    std::vector<TreeEntry> entries_;
+    const Describe::TreePlan& plan_;
+    std::vector<RecordSlot> slots_;
+    std::vector<std::size_t> firstSegments_;
     std::vector<BitSegment> segments_;
     std::deque<FieldDetail> details_;  // stays in place as it grows
 };
 
-const TreePlan& planOf(MessageFormat format) {
+const TreeRecordPlan& planOf(MessageFormat format) {
     switch (format) {
         case MessageFormat::GpsCNav2: {
-            static const TreePlan plan(format, GpsCNav2::gpsCNav2FrameDef(),
-                                       GpsCNav2::FrameDef::kBits);
+            static const TreeRecordPlan plan(format,
+                                             Describe::treePlanOf<&GpsCNav2::gpsCNav2FrameDef>());
             return plan;
         }
         case MessageFormat::BeidouCNav1: {
-            static const TreePlan plan(format, BeidouCNav1::beidouCNav1FrameDef(),
-                                       BeidouCNav1::FrameDef::kBits);
+            static const TreeRecordPlan plan(
+                format, Describe::treePlanOf<&BeidouCNav1::beidouCNav1FrameDef>());
             return plan;
         }
         case MessageFormat::BeidouCNav2: {
-            static const TreePlan plan(format, BeidouCNav2::beidouCNav2FrameDef(),
-                                       BeidouCNav2::FrameDef::kBits);
+            static const TreeRecordPlan plan(
+                format, Describe::treePlanOf<&BeidouCNav2::beidouCNav2FrameDef>());
             return plan;
         }
         case MessageFormat::Irnss: {
-            static const TreePlan plan(format, Irnss::irnssSubframeDef(),
-                                       Irnss::SubframeDef::kBits);
+            static const TreeRecordPlan plan(format,
+                                             Describe::treePlanOf<&Irnss::irnssSubframeDef>());
             return plan;
         }
         default:
@@ -215,54 +173,16 @@ const TreePlan& planOf(MessageFormat format) {
     }
 }
 
+// The record's value: the number `rule.format` reads times the scale.
 double valueOf(const ValueRule& rule, std::uint64_t raw) {
+    if (isUnsignedFormat(rule.format)) {
+        return static_cast<double>(raw & lowBitsMask(rule.width)) * rule.scale;
+    }
     return BitUtils::readDouble(raw, rule.scale, rule.width, rule.format);
 }
 
-// Records what the walk reaches; notes the variants it enters for the layout name.
-class RecordSink {
-  public:
-    static constexpr bool kVisitsHidden = true;
-    static constexpr std::size_t kMaxVariants = 4;
-
-    RecordSink(const TreePlan& plan, MessageWriter& writer) noexcept
-        : plan_(plan), writer_(writer) {}
-
-    void heading(const BitStructDef& def, std::uint32_t /*level*/) noexcept {
-        if (def.containerId() >= 0 && variantCount_ < kMaxVariants) {
-            variants_[variantCount_++] = def.containerId();
-        }
-    }
-    void lineBreak() noexcept {}
-    void value(const Describe::ValueLine& line) {
-        const TreePart& part = plan_.entry(line.field).parts.front();
-        writer_.add(part.info, line.raw, valueOf(part.rule, line.raw));
-    }
-    void hidden(const BitFieldDef& def, ConstBitBuffer buffer) {
-        if (def.isStruct()) {
-            for (const BitFieldDef* child : static_cast<const BitStructDef&>(def).children()) {
-                hidden(*child, buffer);
-            }
-            return;
-        }
-        const auto& field = static_cast<const BitFieldValueDef&>(def);
-        for (const TreePart& part : plan_.entry(def).parts) {
-            const std::uint64_t raw = part.ranges.empty() ? field.readRaw(buffer)
-                                                          : BitUtils::readBits(part.ranges, buffer);
-            writer_.add(part.info, raw, valueOf(part.rule, raw));
-        }
-    }
-
-    [[nodiscard]] std::span<const std::int32_t> variants() const noexcept {
-        return std::span<const std::int32_t>(variants_).first(variantCount_);
-    }
-
-  private:
-    const TreePlan& plan_;
-    MessageWriter& writer_;
-    std::array<std::int32_t, kMaxVariants> variants_{};
-    std::size_t variantCount_ = 0;
-};
+// Layout names look at the innermost of at most this many variants.
+constexpr std::size_t kMaxVariants = 4;
 
 }  // namespace
 
@@ -282,11 +202,21 @@ std::int32_t treeFrameBits(MessageFormat format) noexcept {
 }
 
 void decodeTree(MessageFormat format, MessageWriter& writer) {
-    const TreePlan& plan = planOf(format);
-    const ConstBitBuffer buffer(writer.bits(), plan.frameBits());
-    RecordSink sink(plan, writer);
-    Describe::walk(plan.root(), buffer, 0, sink);
-    appendTreeLayout(format, buffer, sink.variants(), writer.layout());
+    const TreeRecordPlan& records = planOf(format);
+    const Describe::TreePlan& plan = records.plan();
+    const ConstBitBuffer frame(writer.bits(), plan.frameBits());
+    const Describe::TreeLayout& layout = plan.layout(frame);
+    DecodedField* out = writer.extend(layout.recordCount);
+    for (const Describe::TreeLine& line : plan.lines(layout)) {
+        if (line.kind != Describe::LineKind::Heading) {
+            const RecordSlot& slot = records.slot(line.slot);
+            const std::uint64_t raw = plan.read(line, frame);
+            *out++ = DecodedField(slot.info, raw, valueOf(slot.rule, raw));
+        }
+    }
+    const std::span<const std::int32_t> variants(layout.variants);
+    appendTreeLayout(format, frame, variants.first(std::min(variants.size(), kMaxVariants)),
+                     writer.layout());
 }
 
 }  // namespace ZeltNavMsg::Records

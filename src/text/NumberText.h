@@ -1,6 +1,7 @@
 #ifndef ZELTNAVMSG_TEXT_NUMBERTEXT_H
 #define ZELTNAVMSG_TEXT_NUMBERTEXT_H
 
+#include <array>
 #include <bit>
 #include <charconv>
 #include <cstdint>
@@ -38,33 +39,88 @@ inline void storeBigEndian64(char* p, std::uint64_t v) noexcept {
     }
 }
 
-[[nodiscard]] constexpr int decimalDigits(std::uint64_t v) noexcept {
-    int n = 1;
-    while (v >= 10) {
-        v /= 10;
-        ++n;
+// The four bytes of `v`, most significant first.
+inline void storeBigEndian32(char* p, std::uint32_t v) noexcept {
+#if defined(__GNUC__) || defined(__clang__)
+    if constexpr (std::endian::native == std::endian::little) {
+        v = __builtin_bswap32(v);
+        std::memcpy(p, &v, 4);
+        return;
     }
-    return n;
+#endif
+    for (int i = 3; i >= 0; --i, v >>= 8) {
+        p[i] = static_cast<char>(v & 0xFF);
+    }
+}
+
+// 10^k for k = 0 ... 19.
+inline constexpr std::uint64_t kPowersOf10[20] = {1U,
+                                                  10U,
+                                                  100U,
+                                                  1000U,
+                                                  10000U,
+                                                  100000U,
+                                                  1000000U,
+                                                  10000000U,
+                                                  100000000U,
+                                                  1000000000U,
+                                                  10000000000U,
+                                                  100000000000U,
+                                                  1000000000000U,
+                                                  10000000000000U,
+                                                  100000000000000U,
+                                                  1000000000000000U,
+                                                  10000000000000000U,
+                                                  100000000000000000U,
+                                                  1000000000000000000U,
+                                                  10000000000000000000U};
+
+// Number of decimal digits of `v` (1 for 0): from its bit width, log10(2) being about
+// 1233 / 4096, and one more where the value reaches the next power of ten.
+[[nodiscard]] constexpr int decimalDigits(std::uint64_t v) noexcept {
+    v |= 1U;
+    const auto guess = static_cast<int>((std::bit_width(v) * 1233U) >> 12);
+    return guess + (v >= kPowersOf10[static_cast<std::size_t>(guess)] ? 1 : 0);
+}
+
+// Two hex digits of each byte value, the first in the high byte.
+inline constexpr auto kHexPairs = [] {
+    std::array<std::uint16_t, 256> pairs{};
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        pairs[i] = static_cast<std::uint16_t>((kHexDigits[i >> 4] << 8) | kHexDigits[i & 0xF]);
+    }
+    return pairs;
+}();
+
+// The eight hex digits of `v` as characters, the first in the most significant byte:
+// four lookups of two digits.
+[[nodiscard]] constexpr std::uint64_t hexDigits8(std::uint32_t v) noexcept {
+    return (std::uint64_t{kHexPairs[v >> 24]} << 48) |
+           (std::uint64_t{kHexPairs[(v >> 16) & 0xFFU]} << 32) |
+           (std::uint64_t{kHexPairs[(v >> 8) & 0xFFU]} << 16) | kHexPairs[v & 0xFFU];
 }
 }  // namespace Detail
 
-// Decimal digits of `v`, as "%lu" / "%llu" print them.
+// Decimal digits of `v`, as "%lu" / "%llu" print them: two at a time from a table of
+// pairs, from the last; in 32-bit arithmetic once the rest fits.
 inline char* writeUnsigned(char* p, std::uint64_t v) noexcept {
-    const int n = Detail::decimalDigits(v);
-    char* end = p + n;
+    char* const end = p + Detail::decimalDigits(v);
     char* q = end;
-    while (v >= 100) {
-        const auto pair = static_cast<unsigned>(v % 100) * 2;
+    while (v > 0xFFFFFFFFU) {
+        q -= 2;
+        std::memcpy(q, Detail::kDigitPairs + 2 * (v % 100), 2);
         v /= 100;
-        *--q = Detail::kDigitPairs[pair + 1];
-        *--q = Detail::kDigitPairs[pair];
     }
-    if (v >= 10) {
-        const auto pair = static_cast<unsigned>(v) * 2;
-        *--q = Detail::kDigitPairs[pair + 1];
-        *--q = Detail::kDigitPairs[pair];
+    auto w = static_cast<std::uint32_t>(v);
+    while (w >= 100) {
+        q -= 2;
+        std::memcpy(q, Detail::kDigitPairs + 2 * (w % 100), 2);
+        w /= 100;
+    }
+    if (w >= 10) {
+        std::memcpy(q - 2, Detail::kDigitPairs + 2 * w, 2);
     } else {
-        *--q = static_cast<char>('0' + v);
+        q[-1] = static_cast<char>('0' + w);
     }
     return end;
 }
@@ -79,21 +135,27 @@ inline char* writeSigned(char* p, std::int64_t v) noexcept {
     return writeUnsigned(p, magnitude);
 }
 
-// Upper-case hex digits of `v`, zero-padded on the left to at least `minDigits`,
-// as "%0*lX" prints it. Up to 8 digits it may store 8 bytes at `p`.
-inline char* writeHex(char* p, std::uint64_t v, int minDigits) noexcept {
-    const int significant = v == 0 ? 1 : static_cast<int>((std::bit_width(v) + 3) / 4);
-    const int n = significant > minDigits ? significant : minDigits;
+// The last `n` upper-case hex digits of `v` (leading zeros included): two digits at
+// a time from a table, eight at a time into the text. Up to 16 digits it may store
+// 16 bytes at `p`.
+inline char* writeHexDigits(char* p, std::uint64_t v, int n) noexcept {
+    if (n <= 4) {  // most fields: two lookups
+        const auto x = static_cast<std::uint32_t>(v);
+        Detail::storeBigEndian32(p, ((std::uint32_t{Detail::kHexPairs[(x >> 8) & 0xFFU]} << 16) |
+                                     Detail::kHexPairs[x & 0xFFU])
+                                        << (8 * (4 - n)));
+        return p + n;
+    }
     if (n <= 8) {
-        // One nibble per byte, most significant in the top byte, then each nibble
-        // to its digit: '0' + nibble, and 7 more from 'A' on.
-        std::uint64_t x = v;
-        x = ((x & 0xFFFF0000U) << 16) | (x & 0xFFFFU);
-        x = ((x & 0x0000FF000000FF00U) << 8) | (x & 0x000000FF000000FFU);
-        x = ((x & 0x00F000F000F000F0U) << 4) | (x & 0x000F000F000F000FU);
-        const std::uint64_t letters = ((x + 0x0606060606060606U) >> 4) & 0x0101010101010101U;
-        x += 0x3030303030303030U + 7 * letters;
-        Detail::storeBigEndian64(p, x << (8 * (8 - n)));
+        Detail::storeBigEndian64(p, Detail::hexDigits8(static_cast<std::uint32_t>(v))
+                                        << (8 * (8 - n)));
+        return p + n;
+    }
+    if (n <= 16) {
+        const int high = n - 8;
+        Detail::storeBigEndian64(p, Detail::hexDigits8(static_cast<std::uint32_t>(v >> 32))
+                                        << (8 * (8 - high)));
+        Detail::storeBigEndian64(p + high, Detail::hexDigits8(static_cast<std::uint32_t>(v)));
         return p + n;
     }
     char* const end = p + n;
@@ -103,11 +165,19 @@ inline char* writeHex(char* p, std::uint64_t v, int minDigits) noexcept {
     return end;
 }
 
+// Upper-case hex digits of `v`, zero-padded on the left to at least `minDigits`,
+// as "%0*lX" prints it. Up to 16 digits it may store 16 bytes at `p`.
+inline char* writeHex(char* p, std::uint64_t v, int minDigits) noexcept {
+    const int significant = v == 0 ? 1 : static_cast<int>((std::bit_width(v) + 3) / 4);
+    return writeHexDigits(p, v, significant > minDigits ? significant : minDigits);
+}
+
 // `v` as "%g" prints it: six significant digits, correctly rounded (ties to even),
 // the shorter of fixed and exponent form, trailing zeros dropped. Values from about
-// 1e-22 to below 1e7 are converted exactly with integer arithmetic; the rest (and
-// compilers without 128-bit integers) go to std::to_chars in general form with
-// precision 6, which the C++ standard defines to print the same text.
+// 1e-22 to below 1e6, and integers from 1e6 to below 2^64, are converted exactly with
+// integer arithmetic; the rest (and compilers without 128-bit integers) go to
+// std::to_chars in general form with precision 6, which the C++ standard defines to
+// print the same text.
 char* writeG(char* p, double v) noexcept;
 
 }  // namespace ZeltNavMsg::Text

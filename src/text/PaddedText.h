@@ -13,10 +13,12 @@ namespace ZeltNavMsg::Text {
 // read, and the destination written, up to kCopySlack bytes past the text's end.
 inline constexpr std::size_t kCopySlack = 16;
 
-// Copies n bytes in chunks; `src` must be readable and `dst` writable for n rounded
-// up to a multiple of kCopySlack. Returns dst + n.
+// Copies n bytes in chunks, the first whatever n (most texts take one); `src` must be
+// readable and `dst` writable for n rounded up to a multiple of kCopySlack, and at
+// least kCopySlack. Returns dst + n.
 inline char* copyChunks(char* dst, const char* src, std::size_t n) noexcept {
-    for (std::size_t i = 0; i < n; i += kCopySlack) {
+    std::memcpy(dst, src, kCopySlack);
+    for (std::size_t i = kCopySlack; i < n; i += kCopySlack) {
         std::memcpy(dst + i, src + i, kCopySlack);
     }
     return dst + n;

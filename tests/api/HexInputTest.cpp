@@ -32,6 +32,26 @@ TEST(HexInput, EveryByteValueAtEveryAlignment) {
     }
 }
 
+// Every length, odd ones included: the last steps overlap the ones before, and an odd
+// last digit fills a high nibble.
+TEST(HexInput, EveryLength) {
+    const std::string digits = "0123456789abcdefFEDCBA9876543210";
+    for (std::size_t length = 1; length <= 100; ++length) {
+        std::string hex;
+        std::vector<std::uint8_t> expected((length + 1) / 2, 0);
+        for (std::size_t i = 0; i < length; ++i) {
+            const std::size_t d = (7 * i + length) % digits.size();
+            const std::size_t value = d < 16 ? d : 31 - d;
+            hex += digits[d];
+            expected[i / 2] =
+                static_cast<std::uint8_t>(expected[i / 2] | (value << (i % 2 == 0 ? 4 : 0)));
+        }
+        std::int32_t sizeBits = 0;
+        EXPECT_EQ(HexStringToBytes(hex, sizeBits), expected) << hex;
+        EXPECT_EQ(sizeBits, static_cast<std::int32_t>(4 * length));
+    }
+}
+
 TEST(HexInput, FindsABadCharacterAnywhere) {
     for (const char bad :
          {'/', ':', '@', 'G', '`', 'g', ' ', '\0', '\x80', '\xFF', '\x10', '\xB0'}) {

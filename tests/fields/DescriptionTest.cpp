@@ -88,6 +88,48 @@ TEST(Description, OddShapesPrintAsThePlainListing) {
     }
 }
 
+// A message part whose layout its first two bits choose: a listed variant, a real
+// variant in metres, or none (values 0 and 3), and a hidden placeholder for them.
+class SwitchDef : public SelectedByFieldDef {
+  public:
+    SwitchDef(BitStructDef* parent, std::string name, std::int32_t first)
+        : SelectedByFieldDef(parent, std::move(name), bits(first, 12), {}),
+          kind(this, "Kind", bits(0, 2)),
+          rest(this, "Rest", bits(2, 10), {flag(Hidden)}),
+          a(this, "A", bits(2, 10), {container(1)}),
+          b(this, "B", bits(2, 10), kSignedReal, {container(2), pow2(-3), unit("m")}) {
+        selectBy(kind);
+    }
+    Unsigned kind;
+    Unsigned rest;
+    Unsigned a;
+    Real b;
+};
+
+// Two parts side by side, each choosing its own variant: every pair of choices is a
+// layout of its own, as the plain listing (which asks each structure as it goes) shows.
+TEST(Description, SideBySideVariantsTakeEveryPairOfChoices) {
+    BitStructDef root(nullptr, "Pair", bits(0, 24), {});
+    const SwitchDef first(&root, "First", 0);
+    const SwitchDef second(&root, "Second", 12);
+    std::mt19937 random(7);
+    for (unsigned kinds = 0; kinds < 16; ++kinds) {
+        const std::uint32_t payload = random() & 0x3FF3FFU;  // both kinds cleared
+        const std::uint32_t word = payload | ((kinds >> 2) << 22) | ((kinds & 3U) << 10);
+        BinArray<24> frame;
+        std::string hex;
+        for (int i = 0; i < 3; ++i) {
+            frame.data()[i] = static_cast<std::uint8_t>(word >> (16 - 8 * i));
+        }
+        for (int i = 5; i >= 0; --i) {
+            hex += "0123456789ABCDEF"[(word >> (4 * i)) & 0xF];
+        }
+        Text::TextBuffer out("\r\n");
+        Describe::appendText(root, frame.buffer(), 0, out);
+        EXPECT_EQ(out.str(), Baseline::naiveTreeListing(root, 24, hex)) << hex;
+    }
+}
+
 // The worked example: a subframe whose specific data is one structure.
 TEST(Description, WorkedExample) {
     BitStructDef root(nullptr, "IRNSS Subframe", bits(0, 32), {});

@@ -180,15 +180,15 @@ std::uint16_t decodeByTheRule(std::uint16_t codeword) {
     return static_cast<std::uint16_t>((c >> 4) & 0x7FF);
 }
 
-TEST(SubframeCoder, BchDecodeOfEverySingleBitErrorFollowsTheRule) {
+TEST(SubframeCoder, BchDecodeOfEveryCodewordFollowsTheRule) {
+    for (std::uint32_t received = 0; received < 0x8000; ++received) {
+        ASSERT_EQ(SubframeCoderBeidouNav::BchDecode(static_cast<std::uint16_t>(received)),
+                  decodeByTheRule(static_cast<std::uint16_t>(received)))
+            << received;
+    }
     for (std::uint32_t info = 0; info < 2048; ++info) {
-        const std::uint32_t clean = bchCodeword(info);
-        EXPECT_EQ(SubframeCoderBeidouNav::BchDecode(static_cast<std::uint16_t>(clean)), info);
-        for (int position = 0; position < 15; ++position) {
-            const auto received = static_cast<std::uint16_t>(clean ^ (1U << position));
-            ASSERT_EQ(SubframeCoderBeidouNav::BchDecode(received), decodeByTheRule(received))
-                << "info " << info << " error at bit " << position;
-        }
+        EXPECT_EQ(SubframeCoderBeidouNav::BchDecode(static_cast<std::uint16_t>(bchCodeword(info))),
+                  info);
     }
 }
 

@@ -118,6 +118,33 @@ TEST(RecordOutput, JsonReadsBackAsTheRecords) {
     }
 }
 
+// Strings are copied eight bytes at a time up to a byte that needs an escape: each such
+// byte at every position of a longer text, and one byte on each side of the ranges.
+TEST(RecordOutput, EveryEscapeAtEveryPositionOfALongString) {
+    const DecodedMessage m =
+        NavMessageDecoder::DecodeFields(MessageFormat::Irnss, 0, 0, std::string(73, '0'));
+    const struct {
+        char byte;
+        const char* parsed;  // what a parser gives back: Latin-1 above 0x7F
+    } bytes[] = {{'"', "\""},      {'\\', "\\"},         {'\n', "\n"},
+                 {'\x01', "\x01"}, {'\x1F', "\x1F"},     {' ', " "},
+                 {'\x7F', "\x7F"}, {'\x80', "\xC2\x80"}, {'\xE9', "\xC3\xA9"}};
+    for (const auto& b : bytes) {
+        for (std::size_t at = 0; at < 20; ++at) {
+            std::string sat(20, 'G');
+            sat[at] = b.byte;
+            RecordContext context;
+            context.sat = sat;
+            std::string line;
+            AppendJsonRecord(line, m, context);
+            std::string expected(20, 'G');
+            expected.replace(at, 1, b.parsed);
+            const std::string parsed = json::parse(line)["sat"].get<std::string>();
+            EXPECT_EQ(parsed, expected) << static_cast<int>(b.byte) << " at " << at;
+        }
+    }
+}
+
 // Integers take a shortcut; it must write what std::to_chars writes, around every
 // switch between the digits and the exponent form.
 TEST(RecordOutput, NumbersAreWhatToCharsWrites) {

@@ -1,6 +1,6 @@
 // The number writers against the C library's printf, which defines their text: "%g" for
 // writeG (rounding, ties to even, fixed or exponent form, trailing zeros), "%0*llX" for
-// writeHex.
+// writeHex, "%llu" and "%lld" for writeUnsigned and writeSigned.
 
 #include <gtest/gtest.h>
 
@@ -10,6 +10,7 @@
 #include <limits>
 #include <random>
 #include <string>
+#include <vector>
 
 #include "legacy/GpsL1caInterface.h"
 #include "legacy/QzssL1caInterface.h"
@@ -19,6 +20,8 @@ namespace {
 
 using ZeltNavMsg::Text::writeG;
 using ZeltNavMsg::Text::writeHex;
+using ZeltNavMsg::Text::writeSigned;
+using ZeltNavMsg::Text::writeUnsigned;
 
 std::string viaWriteG(double v) {
     char text[ZeltNavMsg::Text::kMaxGLength];
@@ -47,6 +50,9 @@ TEST(WriteG, EdgesOfEachForm) {
         99999.949999, 0.000999999, 9.5, 99.99995,
         // Exact ties at the seventh digit round to even.
         123456.5, 123457.5, 0.1015625, 0.1171875, 1.0000005e6, 2.5e-5, 0.0078125,
+        // Integers of a million and more: divided by a power of ten, up to 2^64.
+        3801088.0, -5963776.0, 1250000.0, 1250001.0, 1350000.0, 9999995.0, 9999994.0,
+        18446744073709549568.0, 18446744073709551616.0, 4503599627370497.0, 1e15 + 5e9,
         // Long exponents, the ends of the exact path, and what it leaves to the library.
         1e-22, 1e-21, 9.99999e-23, 1e-100, 1e100, 1.5e-300, DBL_MAX, DBL_MIN, -DBL_MIN,
         DBL_MIN / 4, std::numeric_limits<double>::denorm_min(),
@@ -104,12 +110,35 @@ TEST(WriteG, ScaledTableValues) {
     }
 }
 
+// The digit count changes at each power of ten and the arithmetic at 2^32: both sides
+// of each, and the ends of both types.
+TEST(WriteInteger, EveryDigitCountAndTheEnds) {
+    std::vector<std::uint64_t> values = {0, 0xFFFFFFFFU, 0x100000000U, ~std::uint64_t{0}};
+    for (std::uint64_t power = 1;; power *= 10) {
+        values.insert(values.end(), {power - 1, power, power + 1, 2 * power, 99 * power});
+        if (power > ~std::uint64_t{0} / 10) {
+            break;
+        }
+    }
+    for (const std::uint64_t v : values) {
+        char expected[32];
+        char text[32];
+        std::snprintf(expected, sizeof expected, "%llu", static_cast<unsigned long long>(v));
+        EXPECT_EQ(std::string(text, writeUnsigned(text, v)), expected);
+        for (const std::int64_t s :
+             {static_cast<std::int64_t>(v), -static_cast<std::int64_t>(v >> 1)}) {
+            std::snprintf(expected, sizeof expected, "%lld", static_cast<long long>(s));
+            EXPECT_EQ(std::string(text, writeSigned(text, s)), expected);
+        }
+    }
+}
+
 TEST(WriteHex, PadsToTheDigitCountAndNeverCuts) {
     for (const std::uint64_t value :
          {std::uint64_t{0}, std::uint64_t{0xF}, std::uint64_t{0x10}, std::uint64_t{0xABC},
           std::uint64_t{0x1FFFFFFF}, std::uint64_t{0xFFFFFFFF}, ~std::uint64_t{0},
-          std::uint64_t{1} << 63}) {
-        for (const int digits : {1, 2, 3, 4, 5, 8, 16, 17, 20}) {
+          std::uint64_t{1} << 63, std::uint64_t{0x123456789}, std::uint64_t{0xFEDCBA9876543}}) {
+        for (const int digits : {1, 2, 3, 4, 5, 8, 9, 12, 16, 17, 20}) {
             char expected[32];
             const int n = std::snprintf(expected, sizeof expected, "%0*llX", digits,
                                         static_cast<unsigned long long>(value));
