@@ -5,8 +5,8 @@
 #   dev      libzeltnavmsg-dev  headers, the static library, the CMake package and the
 #                               pkg-config file
 #   tools    zeltnavmsg-tools   navmsg and its man page
-#   python   python3-zeltnavmsg the Python module, once its install rules name the
-#                               component python
+#   python   python3-zeltnavmsg the Python module (the library linked in statically),
+#                               for the one Python version it was built for
 #
 # Configure with ZELTNAVMSG_PACKAGING=ON, BUILD_SHARED_LIBS=ON and the prefix /usr
 # (the package preset; scripts/package.sh), then run cpack.
@@ -65,10 +65,21 @@ string(CONCAT CPACK_DEBIAN_TOOLS_DESCRIPTION
     "This package holds navmsg, which decodes messages given on the command line or\n"
     "in files, one per line.")
 
-# Its dependencies (the Python version, libzeltnavmsg0 if the module links the shared
-# library) join these lines with the module.
 set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-zeltnavmsg)
 set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+string(CONCAT CPACK_DEBIAN_PYTHON_DESCRIPTION
+    "GNSS navigation message decoding library (Python 3 module)\n${zeltnavmsg_about}\n\n"
+    "This package holds the zeltnavmsg module: listings, field records, integrity\n"
+    "checks, receiver logs and encoding from Python, with pandas and Dask helpers.")
+# to_dataframe and the archive example; the module imports without them.
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS "python3-pandas, python3-dask, python3-distributed")
+# The compiled module is named for one interpreter ABI (cpython-3XY), so it loads
+# into that Python version only.
+if(ZELTNAVMSG_BUILD_PYTHON)
+    math(EXPR zeltnavmsg_python_next "${Python3_VERSION_MINOR} + 1")
+    set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
+        "python3 (>= ${Python3_VERSION_MAJOR}.${Python3_VERSION_MINOR}), python3 (<< ${Python3_VERSION_MAJOR}.${zeltnavmsg_python_next})")
+endif()
 
 set(CPACK_COMPONENTS_ALL runtime dev tools)
 get_cmake_property(zeltnavmsg_components COMPONENTS)

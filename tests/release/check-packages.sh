@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Checks the Debian packages that scripts/package.sh wrote to DIR, without installing
 # them: what each holds and depends on, then, unpacked into a temporary root, navmsg
-# and its man page, and a host built against libzeltnavmsg-dev with find_package
-# (shared and static library) and with pkg-config.
+# and its man page, the Python module in the system's interpreter, and a host built
+# against libzeltnavmsg-dev with find_package (shared and static library) and with
+# pkg-config.
 #   tests/release/check-packages.sh DIR
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
@@ -43,8 +44,16 @@ expect_paths libzeltnavmsg-dev usr/include/zeltnavmsg/NavMessageDecoder.h \
     "$lib/cmake/ZeltNavMsg/ZeltNavMsgConfigVersion.cmake" usr/share/doc/libzeltnavmsg-dev/copyright
 expect_paths zeltnavmsg-tools usr/bin/navmsg usr/share/man/man1/navmsg.1.gz \
     usr/share/doc/zeltnavmsg-tools/copyright
+# The module is built for the system's interpreter, named for its ABI.
+python=/usr/bin/python3
+pyversion=$($python -c 'import sys; print("%d.%d" % sys.version_info[:2])')
+pydir=usr/lib/python3/dist-packages/zeltnavmsg
+expect_paths python3-zeltnavmsg "$pydir/__init__.py" "$pydir/_zeltnavmsg.pyi" "$pydir/py.typed" \
+    "$pydir/_zeltnavmsg$($python -c 'import sysconfig; print(sysconfig.get_config_var("EXT_SUFFIX"))')" \
+    usr/share/doc/python3-zeltnavmsg/copyright
 [ $failures = 0 ] || exit 1
-twice=$(for p in libzeltnavmsg0 libzeltnavmsg-dev zeltnavmsg-tools; do contents $p; done | sort | uniq -d)
+packages="libzeltnavmsg0 libzeltnavmsg-dev zeltnavmsg-tools python3-zeltnavmsg"
+twice=$(for p in $packages; do contents $p; done | sort | uniq -d)
 [ -z "$twice" ] || fail "in two packages: $twice"
 
 # Control fields: the names, sections and dependencies Debian expects; dpkg-shlibdeps
@@ -62,18 +71,36 @@ expect_field libzeltnavmsg-dev Section '^libdevel$'
 expect_field libzeltnavmsg-dev Depends "^$exact"
 expect_field zeltnavmsg-tools Section '^science$'
 expect_field zeltnavmsg-tools Depends "^$exact, .*libstdc\+\+6 \(>= [0-9.]+\)"
+# The library is linked into the module: no libzeltnavmsg0, one Python version.
+expect_field python3-zeltnavmsg Section '^python$'
+pynext=${pyversion%.*}.$((${pyversion#*.} + 1))
+expect_field python3-zeltnavmsg Depends \
+    "(^|, )python3 \(>= ${pyversion//./\\.}\), python3 \(<< ${pynext//./\\.}\)(,|$)"
+expect_field python3-zeltnavmsg Depends 'libstdc\+\+6 \(>= [0-9.]+\)'
+[[ $(field python3-zeltnavmsg Depends) == *libzeltnavmsg0* ]] && fail "python3-zeltnavmsg depends on libzeltnavmsg0"
 
 # Unpacked into a temporary root, never into the machine.
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 root=$work/root
-for p in libzeltnavmsg0 libzeltnavmsg-dev zeltnavmsg-tools; do dpkg -x "$(deb $p)" "$root"; done
+for p in $packages; do dpkg -x "$(deb $p)" "$root"; done
 export LD_LIBRARY_PATH=$root/$lib
 
 [ "$("$root/usr/bin/navmsg" --version)" = "navmsg $version" ] || fail "navmsg --version"
 # (grep without -q reads all, so no writer dies of a closed pipe under pipefail)
 man -l "$root/usr/share/man/man1/navmsg.1.gz" 2>/dev/null | grep "^EXIT STATUS" >/dev/null \
     || fail "man -l does not show navmsg(1)"
+
+# The unpacked module in the system's interpreter, the G04 subframe's WN and IODC
+# as an independent decoder read them (tests/data/real-data/gps_lnav.tsv).
+PYTHONPATH=$root/${pydir%/zeltnavmsg} $python -c '
+import zeltnavmsg
+m = zeltnavmsg.decode_fields("GpsLNav", 1, 0,
+    "8b0d3487fffd614d351000091b1de78f322ebaf701369182b0dd6d7f8f6800ffd153eafc2f0")
+values = {f.name: f.value for f in m.fields}
+assert zeltnavmsg.__file__.startswith("'"$root"'"), zeltnavmsg.__file__
+assert (values["wn"], values["iodc"], m.ok) == (845, 74, True), (values["wn"], values["iodc"], m.ok)
+' || fail "the unpacked Python module does not decode G04 subframe 1"
 
 # The listing of the G04 subframe: its WN and IODC as an independent decoder read them
 # (tests/data/real-data/gps_lnav.tsv).
@@ -105,4 +132,4 @@ if [ $failures != 0 ]; then
     echo "$failures package checks failed"
     exit 1
 fi
-echo "packages of $version: contents, dependencies, navmsg, man page, find_package and pkg-config hosts"
+echo "packages of $version: contents, dependencies, navmsg, man page, Python module, find_package and pkg-config hosts"
