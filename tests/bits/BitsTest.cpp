@@ -17,6 +17,7 @@
 #include "bits/BitRange.h"
 #include "bits/BitUtils.h"
 #include "bits/BitsNumberingSchemeConvertor.h"
+#include "support/BitBytes.h"
 #include "support/Thrown.h"
 
 namespace {
@@ -24,6 +25,7 @@ namespace {
 using ZeltNavMsg::BitRange;
 using ZeltNavMsg::BitUtils;
 using ZeltNavMsg::NumberFormat;
+using ZeltNavMsg::Testing::randomBytes;
 using ZeltNavMsg::Testing::thrownMessage;
 using Init = BitRange::InitializationType;
 
@@ -151,16 +153,7 @@ TEST(BitsNumberingSchemeConvertor, ErrorsKeepEarlierRangesConverted) {
 }
 
 bool bitAt(const std::vector<std::uint8_t>& bytes, int i) {
-    return ((bytes[static_cast<std::size_t>(i / 8)] >> (7 - i % 8)) & 1U) != 0;
-}
-
-std::vector<std::uint8_t> randomBytes(std::size_t n, unsigned seed) {
-    std::mt19937 random(seed);
-    std::vector<std::uint8_t> bytes(n);
-    for (auto& b : bytes) {
-        b = static_cast<std::uint8_t>(random());
-    }
-    return bytes;
+    return ZeltNavMsg::Testing::bitOf(bytes.data(), static_cast<std::size_t>(i)) != 0;
 }
 
 TEST(BitUtils, ReadsEveryOffsetAndWidthLikeTheBitModel) {

@@ -11,6 +11,7 @@
 #include "legacy/SubframeCoderGpsLNav.h"
 #include "logs/LogReading.h"
 #include "support/RealData.h"
+#include "support/SupportedFormats.h"
 
 namespace ZeltNavMsg::Testing {
 namespace {
@@ -167,16 +168,11 @@ TEST(RealLog, MessagesAlsoInRealDataComeOutTheSame) {
     for (const auto& [log, overlap] : kOverlap) {
         const ReadLog read = readLog(loadReceiverLog(log));
         int found = 0;
-        for (const auto& [table, format] : {std::pair{"gps_lnav.tsv", MessageFormat::GpsLNav},
-                                            {"qzss_lnav.tsv", MessageFormat::QzssLNav},
-                                            {"beidou_d1.tsv", MessageFormat::BeidouD1},
-                                            {"beidou_d2.tsv", MessageFormat::BeidouD2},
-                                            {"beidou_cnav1.tsv", MessageFormat::BeidouCNav1},
-                                            {"beidou_cnav2.tsv", MessageFormat::BeidouCNav2},
-                                            {"irnss.tsv", MessageFormat::Irnss}}) {
-            for (const RealMessage& line : loadRealData(table)) {
+        for (const SupportedFormat& row : kSupportedFormats) {
+            for (const RealMessage& line : loadRealData(row.realDataFile)) {
                 for (const ReadMessage& m : read.messages) {
-                    if (m.hex == line.hex && m.satellite == line.satellite && m.format == format) {
+                    if (m.hex == line.hex && m.satellite == line.satellite &&
+                        m.format == row.format) {
                         EXPECT_EQ(m.subframe, line.subframe) << line.where;
                         EXPECT_EQ(m.page, line.page) << line.where;
                         ++found;
