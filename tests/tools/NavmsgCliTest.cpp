@@ -59,7 +59,9 @@ TEST(NavmsgCli, UsageErrorsExitTwoWithOneLine) {
     for (const char* args :
          {"decode " /* no --sat */, "decode --sat G01", "decode --sat G01 --subframe x 00",
           "frobnicate", "batch", "decode --sat X11 00", "decode --sat G01 --format LNAV2 00",
-          "decode --sat G01 --format gpslnav 00", "decode --sat X01 --format GpsLNav 00"}) {
+          "decode --sat G01 --format gpslnav 00", "decode --sat X01 --format GpsLNav 00",
+          "encode --format LNAV", "encode --set toe", "encode --sat G01 -",
+          "encode --format GpsLNav x.json"}) {
         const CliRun run = navmsg(args);
         EXPECT_EQ(run.status, 2) << args;
         EXPECT_TRUE(run.err.starts_with("navmsg: ")) << args << ": " << run.err;
