@@ -8,10 +8,10 @@
 #include <map>
 #include <set>
 
-#include "legacy/SubframeCoderGpsLNav.h"
 #include "logs/LogReading.h"
 #include "support/RealData.h"
 #include "support/SupportedFormats.h"
+#include "zeltnavmsg/DecodedMessage.h"
 
 namespace ZeltNavMsg::Testing {
 namespace {
@@ -26,23 +26,10 @@ std::vector<std::uint32_t> words30(const std::string& hex) {
     return words;
 }
 
-// All ten words pass the LNAV parity: each received word is what the library's word
-// coder makes of its source data bits (D_i xor D30*) after the received previous word.
-bool lnavParityPasses(const std::string& hex) {
-    std::uint32_t previous = 0;
-    for (const std::uint32_t received : words30(hex)) {
-        const std::uint32_t data = (previous & 1U) != 0 ? received ^ 0x3FFFFFC0U : received;
-        if (Legacy::SubframeCoderGpsLNav::EncodeWord(data, previous, false) != received) {
-            return false;
-        }
-        previous = received;
-    }
-    return true;
-}
-
+// The notes count the LNAV subframes whose ten words pass their parity.
 bool passes(const ReadMessage& m) {
     const bool lnav = m.format == MessageFormat::GpsLNav || m.format == MessageFormat::QzssLNav;
-    return !lnav || lnavParityPasses(m.hex);
+    return !lnav || NavMessageDecoder::DecodeFields(m.format, m.subframe, m.page, m.hex).ok();
 }
 
 struct LogCounts {
