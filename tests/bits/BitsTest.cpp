@@ -17,6 +17,7 @@
 #include "bits/BitRange.h"
 #include "bits/BitUtils.h"
 #include "bits/BitsNumberingSchemeConvertor.h"
+#include "support/BitBytes.h"
 #include "support/Thrown.h"
 
 namespace {
@@ -24,6 +25,7 @@ namespace {
 using ZeltNavMsg::BitRange;
 using ZeltNavMsg::BitUtils;
 using ZeltNavMsg::NumberFormat;
+using ZeltNavMsg::Testing::randomBytes;
 using ZeltNavMsg::Testing::thrownMessage;
 using Init = BitRange::InitializationType;
 
@@ -70,18 +72,6 @@ TEST(BitRange, ConstructionAndChecksInOrder) {
     }
 }
 
-TEST(BitBuffer, ChecksPointerBeforeCount) {
-    const std::uint8_t byte = 0;
-    const auto message = [](const std::uint8_t* p, std::int32_t bits) {
-        return thrownMessage<std::runtime_error>([&] { ZeltNavMsg::ConstBitBuffer(p, bits); });
-    };
-    EXPECT_EQ(message(nullptr, 0), "BitBufferWrapper: ptr is 0");
-    EXPECT_EQ(message(nullptr, 8), "BitBufferWrapper: ptr is 0");
-    EXPECT_EQ(message(&byte, 0), "BitBufferWrapper: bitsCount should be positive");
-    EXPECT_EQ(message(&byte, -8), "BitBufferWrapper: bitsCount should be positive");
-    EXPECT_EQ(ZeltNavMsg::ConstBitBuffer(&byte, 1).bitsCount(), 1);
-}
-
 // Bits past the end stay zero: the last byte after fill(), the others all `value`.
 template <int N>
 std::uint8_t lastByteAfterFill(std::uint8_t value) {
@@ -101,17 +91,13 @@ TEST(BinArray, FillKeepsBitsPastTheEndZero) {
     EXPECT_EQ(lastByteAfterFill<878>(0x01), 0x00);
 }
 
-TEST(BinArray, CopyBitsChecksSourceRangeThenDestinationThenBuffer) {
+TEST(BinArray, CopyBitsPlacesTheSourceRange) {
     ZeltNavMsg::BinArray<16> a;
     a.fill(0);
     const std::uint8_t src[2] = {0xAB, 0xCD};
     a.copyBits(4, 0, 7, src, 16);
     EXPECT_EQ(a.data()[0], 0x0A);
     EXPECT_EQ(a.data()[1], 0xB0);
-    EXPECT_THROW(a.copyBits(0, 5, 4, src, 16), std::invalid_argument);   // source range
-    EXPECT_THROW(a.copyBits(-1, 0, 3, src, 16), std::invalid_argument);  // destination range
-    EXPECT_THROW(a.copyBits(0, 0, 3, nullptr, 16), std::runtime_error);  // source buffer
-    EXPECT_THROW(a.copyBits(0, 0, 3, src, 0), std::runtime_error);
 }
 
 TEST(BitsNumberingSchemeConvertor, ConvertsAndMirrors) {
@@ -151,16 +137,7 @@ TEST(BitsNumberingSchemeConvertor, ErrorsKeepEarlierRangesConverted) {
 }
 
 bool bitAt(const std::vector<std::uint8_t>& bytes, int i) {
-    return ((bytes[static_cast<std::size_t>(i / 8)] >> (7 - i % 8)) & 1U) != 0;
-}
-
-std::vector<std::uint8_t> randomBytes(std::size_t n, unsigned seed) {
-    std::mt19937 random(seed);
-    std::vector<std::uint8_t> bytes(n);
-    for (auto& b : bytes) {
-        b = static_cast<std::uint8_t>(random());
-    }
-    return bytes;
+    return ZeltNavMsg::Testing::bitOf(bytes.data(), static_cast<std::size_t>(i)) != 0;
 }
 
 TEST(BitUtils, ReadsEveryOffsetAndWidthLikeTheBitModel) {
@@ -224,16 +201,6 @@ TEST(BitUtils, CopyBitsMovesExactlyTheRange) {
     }
 }
 
-TEST(BitUtils, HexTextToBitsRefusesOtherCharacters) {
-    std::uint8_t bytes[2] = {};
-    EXPECT_EQ(thrownMessage<std::runtime_error>(
-                  [&] { BitUtils::convertHexStringToBinArray("1g", 2, bytes, 8); }),
-              "BitUtils::convertHexStringToBinArray: hexString should contain only hex digits "
-              "(0-9, A-F, a-f)");
-    EXPECT_THROW(BitUtils::convertHexStringToBinArray("1", 1, nullptr, 8), std::runtime_error);
-    EXPECT_THROW(BitUtils::convertHexStringToBinArray("1", 1, bytes, 0), std::runtime_error);
-}
-
 TEST(BitUtils, DecodeSignedNumber) {
     const struct {
         std::uint64_t raw;
@@ -256,34 +223,60 @@ TEST(BitUtils, DecodeSignedNumber) {
                   c.value)
             << c.raw << "/" << c.width << "/" << c.format;
     }
-    for (unsigned format : {0U, 1U, 5U, 9U}) {
-        EXPECT_EQ(thrownMessage<std::runtime_error>([&] {
-                      (void)BitUtils::decodeSignedNumber(0b1011, 4,
-                                                         static_cast<NumberFormat>(format));
-                  }),
-                  "decodeSignedNumber: Unknown number format");
-    }
 }
 
-TEST(BitUtils, NumberFormatsRefused) {
+// Each refusal, its category and message; where several checks could fail, the one that
+// runs first (the pointer before the count, the source range before the destination).
+TEST(Bits, RefusalsNameWhatIsWrong) {
     using F = NumberFormat;
-    for (const F f : {F::UnsignedNumberFormat, F::UnknownNumberFormat}) {
-        EXPECT_EQ(thrownMessage<std::runtime_error>(
-                      [&] { (void)BitUtils::encodeSignedNumber(5, true, 4, f); }),
-                  "encodeSignedNumber: only signed number formats are supported");
-    }
-    EXPECT_THROW((void)BitUtils::readDouble(0xFF, 1.0, 8, F::UnknownNumberFormat),
-                 std::runtime_error);
-}
-
-TEST(LimitedSizeString, RefusesTheCharacterPastItsCapacity) {
+    const std::uint8_t byte = 0;
+    std::uint8_t bytes[2] = {};
+    ZeltNavMsg::BinArray<16> a;
     ZeltNavMsg::LimitedSizeString<3> s;
     s.append("abc");
-    EXPECT_EQ(s.view(), "abc");
+    const auto runtime = [](auto call) { return thrownMessage<std::runtime_error>(call); };
+    const auto invalid = [](auto call) { return thrownMessage<std::invalid_argument>(call); };
+    const std::string kNoPointer = "BitBufferWrapper: ptr is 0";
+    const std::string kNoBits = "BitBufferWrapper: bitsCount should be positive";
+    const std::string kUnknown = "decodeSignedNumber: Unknown number format";
+    const std::string kUnsigned = "encodeSignedNumber: only signed number formats are supported";
+    const std::pair<std::string, std::string> cases[] = {
+        {runtime([] { ZeltNavMsg::ConstBitBuffer(nullptr, 0); }), kNoPointer},
+        {runtime([] { ZeltNavMsg::ConstBitBuffer(nullptr, 8); }), kNoPointer},
+        {runtime([&] { ZeltNavMsg::ConstBitBuffer(&byte, 0); }), kNoBits},
+        {runtime([&] { ZeltNavMsg::ConstBitBuffer(&byte, -8); }), kNoBits},
+        {invalid([&] { a.copyBits(-1, 5, 4, nullptr, 0); }),
+         "BitRange: firstBitIndex is greater than lastBitIndex"},
+        {invalid([&] { a.copyBits(-1, 0, 3, nullptr, 0); }), "BitRange: firstBitIndex is negative"},
+        {runtime([&] { a.copyBits(0, 0, 3, nullptr, 0); }), kNoPointer},
+        {runtime([&] { a.copyBits(0, 0, 3, bytes, 0); }), kNoBits},
+        {runtime([&] { BitUtils::convertHexStringToBinArray("1g", 2, bytes, 8); }),
+         "BitUtils::convertHexStringToBinArray: hexString should contain only hex digits "
+         "(0-9, A-F, a-f)"},
+        {runtime([] { BitUtils::convertHexStringToBinArray("1", 1, nullptr, 8); }), kNoPointer},
+        {runtime([&] { BitUtils::convertHexStringToBinArray("1", 1, bytes, 0); }), kNoBits},
+        {runtime([] { (void)BitUtils::decodeSignedNumber(0b1011, 4, static_cast<F>(0)); }),
+         kUnknown},
+        {runtime([] { (void)BitUtils::decodeSignedNumber(0b1011, 4, static_cast<F>(1)); }),
+         kUnknown},
+        {runtime([] { (void)BitUtils::decodeSignedNumber(0b1011, 4, static_cast<F>(5)); }),
+         kUnknown},
+        {runtime([] { (void)BitUtils::decodeSignedNumber(0b1011, 4, static_cast<F>(9)); }),
+         kUnknown},
+        {runtime([] { (void)BitUtils::readDouble(0xFF, 1.0, 8, F::UnknownNumberFormat); }),
+         kUnknown},
+        {runtime([] { (void)BitUtils::encodeSignedNumber(5, true, 4, F::UnsignedNumberFormat); }),
+         kUnsigned},
+        {runtime([] { (void)BitUtils::encodeSignedNumber(5, true, 4, F::UnknownNumberFormat); }),
+         kUnsigned},
+        {runtime([&] { s.push_back('d'); }), "LimitedSizeString: not enough capacity"},
+    };
+    for (std::size_t i = 0; i < std::size(cases); ++i) {
+        EXPECT_EQ(cases[i].first, cases[i].second) << "case " << i;
+    }
+    EXPECT_EQ(ZeltNavMsg::ConstBitBuffer(&byte, 1).bitsCount(), 1);
+    EXPECT_EQ(s.view(), "abc");  // the refused character left out
     EXPECT_STREQ(s.c_str(), "abc");
-    EXPECT_EQ(thrownMessage<std::runtime_error>([&] { s.push_back('d'); }),
-              "LimitedSizeString: not enough capacity");
-    EXPECT_EQ(s.view(), "abc");
 }
 
 }  // namespace

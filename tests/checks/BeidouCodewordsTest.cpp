@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "api/HexInput.h"
+#include "support/BitBytes.h"
 #include "support/RealData.h"
 #include "support/SubframeBits.h"
 
@@ -30,7 +31,7 @@ Decoded corrected(const std::vector<std::uint8_t>& bytes, std::int32_t bits) {
 }
 
 unsigned bitOf(const std::uint8_t* bytes, std::int32_t p) {
-    return (bytes[p / 8] >> (7 - p % 8)) & 1U;
+    return Testing::bitOf(bytes, static_cast<std::size_t>(p));
 }
 
 std::string upper(std::string text) {
@@ -101,11 +102,9 @@ TEST(BeidouCodewords, CorrectedSubframeOfEverySingleErrorIsTheBroadcastOne) {
             }
             EXPECT_EQ(Testing::encodeBeidou(decoded).hex(), upper(m.hex.substr(0, 75))) << m.where;
             for (int p = 15; p < kBeidouSubframeBits; ++p) {
-                bytes[static_cast<std::size_t>(p / 8)] ^=
-                    static_cast<std::uint8_t>(0x80U >> (p % 8));
+                Testing::flipBit(bytes, static_cast<std::size_t>(p));
                 ASSERT_EQ(corrected(bytes, bits), clean) << m.where << " error at bit " << p;
-                bytes[static_cast<std::size_t>(p / 8)] ^=
-                    static_cast<std::uint8_t>(0x80U >> (p % 8));
+                Testing::flipBit(bytes, static_cast<std::size_t>(p));
             }
         }
     }

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "api/HexInput.h"
+#include "support/BitBytes.h"
 #include "support/RealData.h"
 #include "support/SupportedFormats.h"
 
@@ -112,7 +113,7 @@ TEST(Checks, EveryRealMessagePassesItsDocumentedChecks) {
                 std::uint32_t received = 0;
                 for (auto p = e.bits.end() - e.width; p != e.bits.end(); ++p) {
                     received = (received << 1) |
-                               ((bytes[static_cast<std::size_t>(*p / 8)] >> (7 - *p % 8)) & 1U);
+                               Testing::bitOf(bytes.data(), static_cast<std::size_t>(*p));
                 }
                 EXPECT_EQ(c.status, CheckStatus::Pass) << m.where << " " << e.name;
                 EXPECT_EQ(c.computed, received) << m.where << " " << e.name;
@@ -132,9 +133,9 @@ TEST(Checks, OneFlippedBitFailsExactlyTheChecksThatCoverIt) {
         const std::vector<Expected> expected = expectedChecks(f.format);
         std::vector<std::uint8_t> bytes = bytesOf(f.sampleHex);
         for (std::int32_t p = 0; p < f.frameBits; ++p) {
-            bytes[static_cast<std::size_t>(p / 8)] ^= static_cast<std::uint8_t>(0x80U >> (p % 8));
+            Testing::flipBit(bytes, static_cast<std::size_t>(p));
             const auto checks = checksOf(f.format, bytes, f.frameBits);
-            bytes[static_cast<std::size_t>(p / 8)] ^= static_cast<std::uint8_t>(0x80U >> (p % 8));
+            Testing::flipBit(bytes, static_cast<std::size_t>(p));
             ASSERT_EQ(checks.size(), expected.size());
             for (std::size_t i = 0; i < checks.size(); ++i) {
                 const bool carried = expected[i].width == 6 && i > 0 && expected[i - 1].covers(p) &&

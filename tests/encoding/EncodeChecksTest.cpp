@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "support/CheckVerdict.h"
 #include "support/SupportedFormats.h"
 #include "zeltnavmsg/MessageEncoder.h"
 
@@ -19,21 +20,6 @@ bool covers(const CheckResult& check, std::int32_t bit) {
         }
     }
     return false;
-}
-
-// The names of the checks that do not pass, and the bit a corrected one names.
-std::string verdict(const DecodedMessage& m) {
-    std::string text;
-    for (const CheckResult& c : m.checks()) {
-        if (!c.ok()) {
-            text += std::string(c.name) +
-                    (c.status == CheckStatus::Corrected
-                         ? " corrected at " + std::to_string(c.correctedBit)
-                         : " failed") +
-                    "; ";
-        }
-    }
-    return text;
 }
 
 // In each real sample, each data field's last bit changed: kept check bits fail the one
@@ -65,11 +51,11 @@ TEST(EncodeChecks, AChangedBitFailsExactlyItsCheckUnlessRecomputed) {
                                 "; ";
                 }
             }
-            EXPECT_EQ(verdict(kept), expected);
+            EXPECT_EQ(Testing::failedChecks(kept), expected);
 
             const DecodedMessage recomputed =
                 NavMessageDecoder::DecodeFields(row.format, row.subframe, row.page, encoder.hex());
-            EXPECT_EQ(verdict(recomputed), "");
+            EXPECT_EQ(Testing::failedChecks(recomputed), "");
             const DecodedField* changed = recomputed.find(f.path());
             ASSERT_NE(changed, nullptr);
             EXPECT_EQ(changed->raw(), f.raw() ^ 1U);
@@ -86,8 +72,8 @@ TEST(EncodeChecks, ADamagedBeidouCodewordIsCorrectedOrKept) {
     MessageEncoder encoder(MessageFormat::BeidouD1, d1.subframe, d1.page, damaged);
     EXPECT_EQ(encoder.hex(), d1.sampleHex);
     EXPECT_EQ(encoder.hex(CheckBits::Keep), damaged);
-    EXPECT_EQ(verdict(NavMessageDecoder::DecodeFields(MessageFormat::BeidouD1, d1.subframe, d1.page,
-                                                      encoder.hex(CheckBits::Keep))),
+    EXPECT_EQ(Testing::failedChecks(NavMessageDecoder::DecodeFields(
+                  MessageFormat::BeidouD1, d1.subframe, d1.page, encoder.hex(CheckBits::Keep))),
               "word 6 BCH 2 corrected at 163; ");
     // Set, the damaged bit is the caller's: kept as set.
     for (const DecodedField& f : encoder.message().fields()) {

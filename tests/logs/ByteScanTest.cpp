@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "logs/ByteScan.h"
+#include "support/BitBytes.h"
 
 namespace ZeltNavMsg::Testing {
 namespace {
@@ -24,11 +25,7 @@ std::pair<std::uint8_t, std::uint8_t> ubxChecksum(const std::uint8_t* p, std::si
 
 TEST(ByteScan, ChecksumAsDefinedAtEveryLength) {
     constexpr std::size_t kLongest = 4 + 65535;  // class, id, length and the largest payload
-    std::mt19937 random(7);
-    std::vector<std::uint8_t> noise(kLongest + 3);
-    for (std::uint8_t& byte : noise) {
-        byte = static_cast<std::uint8_t>(random());
-    }
+    const std::vector<std::uint8_t> noise = randomBytes(kLongest + 3, 7);
     // All 0xFF: the largest sums, where any carry between lanes would show.
     const std::vector<std::uint8_t> ones(kLongest, 0xFF);
     std::vector<std::size_t> lengths{kLongest - 1, kLongest};

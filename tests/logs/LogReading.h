@@ -75,6 +75,15 @@ inline ReadLog readLog(std::string_view bytes, const std::vector<std::size_t>& c
     return result;
 }
 
+// The cuts of `size` bytes into pieces of `chunk`, for readLog.
+inline std::vector<std::size_t> chunkCuts(std::size_t size, std::size_t chunk) {
+    std::vector<std::size_t> cuts;
+    for (std::size_t at = chunk; at < size; at += chunk) {
+        cuts.push_back(at);
+    }
+    return cuts;
+}
+
 // Every count equal (the struct is all 64-bit counters, without padding).
 inline bool operator==(const LogReaderStats& a, const LogReaderStats& b) {
     return std::memcmp(&a, &b, sizeof a) == 0;

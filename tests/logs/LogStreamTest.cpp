@@ -25,11 +25,7 @@ TEST(LogStream, ChunkSizeChangesNothing) {
         const std::string bytes = loadReceiverLog(file);
         const ReadLog whole = readLog(bytes);
         for (const std::size_t chunk : {1U, 3U, 64U, 4093U, 65543U, 65544U, 150001U}) {
-            std::vector<std::size_t> cuts;
-            for (std::size_t at = chunk; at < bytes.size(); at += chunk) {
-                cuts.push_back(at);
-            }
-            const ReadLog pieces = readLog(bytes, cuts);
+            const ReadLog pieces = readLog(bytes, chunkCuts(bytes.size(), chunk));
             EXPECT_TRUE(pieces.messages == whole.messages) << file << " in chunks of " << chunk;
             EXPECT_TRUE(pieces.stats == whole.stats) << file << " in chunks of " << chunk;
         }
@@ -118,11 +114,7 @@ TEST(LogStream, GarbageBetweenFramesIsSkipped) {
         expectSameMessages(read.messages, expected);
         // In pieces, the frames that a failed one hid are found again where it was held.
         for (const std::size_t chunk : {7U, 1000U, 70000U}) {
-            std::vector<std::size_t> cuts;
-            for (std::size_t at = chunk; at < mixed.size(); at += chunk) {
-                cuts.push_back(at);
-            }
-            const ReadLog pieces = readLog(mixed, cuts);
+            const ReadLog pieces = readLog(mixed, chunkCuts(mixed.size(), chunk));
             EXPECT_TRUE(pieces.messages == read.messages) << file << " in chunks of " << chunk;
             EXPECT_TRUE(pieces.stats == read.stats) << file << " in chunks of " << chunk;
         }

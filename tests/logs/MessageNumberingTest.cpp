@@ -8,6 +8,7 @@
 #include "legacy/BeidouD1Interface.h"
 #include "legacy/GpsL1caInterface.h"
 #include "support/RealData.h"
+#include "support/SupportedFormats.h"
 
 namespace ZeltNavMsg::Testing {
 namespace {
@@ -15,23 +16,10 @@ namespace {
 // The subframe and page columns of every real broadcast came from the data's sources;
 // the bits alone give the same.
 TEST(MessageNumbering, RealDataColumnsFromTheBits) {
-    const struct {
-        const char* file;
-        MessageFormat format;
-    } kTables[] = {
-        {"gps_lnav.tsv", MessageFormat::GpsLNav},
-        {"qzss_lnav.tsv", MessageFormat::QzssLNav},
-        {"beidou_d1.tsv", MessageFormat::BeidouD1},
-        {"beidou_d2.tsv", MessageFormat::BeidouD2},
-        {"gps_cnav2.tsv", MessageFormat::GpsCNav2},
-        {"beidou_cnav1.tsv", MessageFormat::BeidouCNav1},
-        {"beidou_cnav2.tsv", MessageFormat::BeidouCNav2},
-        {"irnss.tsv", MessageFormat::Irnss},
-    };
     std::size_t lines = 0;
-    for (const auto& table : kTables) {
-        for (const RealMessage& m : loadRealData(table.file)) {
-            const SubframeAndPage got = MessageNumbering::GetSubframeAndPage(table.format, m.hex);
+    for (const SupportedFormat& row : kSupportedFormats) {
+        for (const RealMessage& m : loadRealData(row.realDataFile)) {
+            const SubframeAndPage got = MessageNumbering::GetSubframeAndPage(row.format, m.hex);
             EXPECT_EQ(got.subframe, m.subframe) << m.where;
             EXPECT_EQ(got.page, m.page) << m.where;
             ++lines;

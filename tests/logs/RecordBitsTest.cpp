@@ -2,24 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <vector>
 
 #include "logs/RecordBits.h"
+#include "support/BitBytes.h"
 
 namespace ZeltNavMsg::Testing {
 namespace {
 
 // Runs of any length from any bit, after bits of any count: as a bit-by-bit copy.
 TEST(MessageBits, AppendAnyRunAfterAnyBits) {
-    std::mt19937 random(9);
-    std::vector<std::uint8_t> source(240);
-    for (std::uint8_t& byte : source) {
-        byte = static_cast<std::uint8_t>(random());
-    }
-    const auto bit = [](const std::uint8_t* p, std::size_t i) {
-        return (p[i / 8] >> (7 - i % 8)) & 1U;
-    };
+    const std::vector<std::uint8_t> source = randomBytes(240, 9);
     constexpr std::uint32_t kLead = 0xB38F0F1DU;
     for (const unsigned before : {0U, 1U, 6U, 14U, 32U}) {
         for (const std::size_t first : {0U, 3U, 8U, 52U, 1273U}) {
@@ -32,9 +25,9 @@ TEST(MessageBits, AppendAnyRunAfterAnyBits) {
                 for (std::size_t i = 0; i < 8 * bits.bytes.size(); ++i) {
                     const std::uint32_t expected = i < before ? (kLead >> (before - 1 - i)) & 1U
                                                    : i < before + count
-                                                       ? bit(source.data(), first + i - before)
+                                                       ? bitOf(source.data(), first + i - before)
                                                        : 0U;
-                    ASSERT_EQ(bit(bits.bytes.data(), i), expected)
+                    ASSERT_EQ(bitOf(bits.bytes.data(), i), expected)
                         << before << " " << first << " " << count << ": bit " << i;
                 }
             }

@@ -4,71 +4,28 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include <sys/wait.h>
-
 #include <algorithm>
 #include <cctype>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <sstream>
 #include <string>
 
+#include "support/CheckVerdict.h"
+#include "support/CliShell.h"
 #include "support/RealData.h"
 #include "support/SupportedFormats.h"
-#include "zeltnavmsg/DecodedMessage.h"
 #include "zeltnavmsg/RecordOutput.h"
 
 namespace {
 
 using ZeltNavMsg::MessageFormat;
 using ZeltNavMsg::NavMessageDecoder;
+using ZeltNavMsg::Testing::CliRun;
+using ZeltNavMsg::Testing::shell;
 namespace Testing = ZeltNavMsg::Testing;
 
-struct ToolRun {
-    int status = -1;
-    std::string out;
-    std::string err;
-};
-
-std::string slurp(const std::filesystem::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
-
-// `script` run by sh in a scratch directory $D, `navmsg` being the tool, `input` on
-// standard input.
-ToolRun shell(const std::string& script, const std::string& input = "") {
-    const std::filesystem::path dir =
-        std::filesystem::temp_directory_path() /
-        ("navmsg-encode-" + std::to_string(::getpid()) + "-" +
-         ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    std::filesystem::create_directories(dir);
-    std::ofstream(dir / "in") << input;
-    std::ofstream(dir / "script") << "D='" << dir.string() << "'\nnavmsg() { '" << NAVMSG_PATH
-                                  << "' \"$@\"; }\n"
-                                  << script << "\n";
-    std::string command = "cd '" + dir.string() + "' && sh script <in >out 2>err";
-    const int raw = std::system(command.c_str());
-    ToolRun run{WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, slurp(dir / "out"), slurp(dir / "err")};
-    std::filesystem::remove_all(dir);
-    return run;
-}
-
-// The checks that do not pass, as "word 2 parity failed; ".
+// The checks of the message that do not pass.
 std::string verdict(MessageFormat format, std::int32_t subframe, const std::string& hex) {
-    std::string text;
-    const ZeltNavMsg::DecodedMessage m = NavMessageDecoder::DecodeFields(format, subframe, 0, hex);
-    for (const ZeltNavMsg::CheckResult& c : m.checks()) {
-        if (c.status == ZeltNavMsg::CheckStatus::Corrected) {
-            text += std::string(c.name) + " corrected at " + std::to_string(c.correctedBit) + "; ";
-        } else if (!c.ok()) {
-            text += std::string(c.name) + " failed; ";
-        }
-    }
-    return text;
+    return Testing::failedChecks(NavMessageDecoder::DecodeFields(format, subframe, 0, hex));
 }
 
 std::string sample(MessageFormat format) {
@@ -90,7 +47,7 @@ TEST(NavmsgEncode, BatchJsonOfEveryRealMessageEncodesBackBitForBit) {
             expected += head + hex + "\n";
         }
     }
-    const ToolRun run = shell("navmsg batch --output json --all-fields - | navmsg encode", input);
+    const CliRun run = shell("navmsg batch --output json --all-fields - | navmsg encode", input);
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.err, "");
     EXPECT_EQ(run.out, expected);
@@ -99,14 +56,14 @@ TEST(NavmsgEncode, BatchJsonOfEveryRealMessageEncodesBackBitForBit) {
 // A value edited in the JSON wins over the raw bits beside it; the parity follows.
 TEST(NavmsgEncode, AnEditedValueIsEncodedWithFreshParity) {
     const std::string hex = sample(MessageFormat::GpsLNav);
-    const ToolRun decoded = shell("navmsg decode --sat G04 --subframe 1 --output json " + hex);
+    const CliRun decoded = shell("navmsg decode --sat G04 --subframe 1 --output json " + hex);
     nlohmann::json record = nlohmann::json::parse(decoded.out);
     for (nlohmann::json& f : record["fields"]) {
         if (f["name"] == "af0") {
             f["value"] = 1e-4;
         }
     }
-    const ToolRun run = shell("navmsg encode --hex", record.dump() + "\n");
+    const CliRun run = shell("navmsg encode --hex", record.dump() + "\n");
     ASSERT_EQ(run.status, 0) << run.err;
     const std::string encoded = run.out.substr(0, run.out.size() - 1);
     EXPECT_EQ(verdict(MessageFormat::GpsLNav, 1, encoded), "");
@@ -145,8 +102,8 @@ TEST(NavmsgEncode, KeepChecksAndFlipDamageExactlyWhereAsked) {
     };
     for (const Damage& c : cases) {
         const std::string name(ZeltNavMsg::MessageFormatName(c.format));
-        const ToolRun run = shell("navmsg encode --hex --format " + name + " --subframe " +
-                                  std::to_string(c.subframe) + c.options);
+        const CliRun run = shell("navmsg encode --hex --format " + name + " --subframe " +
+                                 std::to_string(c.subframe) + c.options);
         ASSERT_EQ(run.status, 0) << c.options << run.err;
         EXPECT_EQ(verdict(c.format, c.subframe, run.out.substr(0, run.out.size() - 1)), c.verdict)
             << c.options;
@@ -154,7 +111,7 @@ TEST(NavmsgEncode, KeepChecksAndFlipDamageExactlyWhereAsked) {
 }
 
 TEST(NavmsgEncode, BatchLinesNameTheSatelliteAndFormat) {
-    const ToolRun run = shell(
+    const CliRun run = shell(
         "navmsg encode --format GpsLNav --subframe 1 --set preamble=139\n"
         "navmsg encode --format LNAV --sat J07 --subframe 4 --page 18\n"
         "navmsg encode --format CNAV2 --sat C20 --raw MesType=0x0a --raw PRN=20 --set SOW=3");
@@ -180,7 +137,7 @@ TEST(NavmsgEncode, ReportsNameTheLineAndTheRunGoesOn) {
         R"({"sat":"G05","format":"GpsLNav","subframe":2,"fields":[{"name":"toe","value":7200,"units":"ms"}]})" +
         "\n" + R"({"line":9,"error":{"type":"DecodingError","message":"bad digit"}})" + "\n\n" +
         good + "\n";
-    const ToolRun run = shell("navmsg encode", input);
+    const CliRun run = shell("navmsg encode", input);
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.err,
               "navmsg: line 2: not a JSON record: column 2: syntax error while parsing value - "
@@ -192,13 +149,6 @@ TEST(NavmsgEncode, ReportsNameTheLineAndTheRunGoesOn) {
     const std::size_t firstEnd = run.out.find('\n');
     ASSERT_NE(firstEnd, std::string::npos);
     EXPECT_EQ(run.out, run.out.substr(0, firstEnd + 1) + run.out.substr(0, firstEnd + 1));
-
-    for (const char* usage : {"encode --format LNAV", "encode --set toe", "encode --sat G01 -",
-                              "encode --format GpsLNav x.json"}) {
-        const ToolRun bad = shell(std::string("navmsg ") + usage);
-        EXPECT_EQ(bad.status, 2) << usage;
-        EXPECT_TRUE(bad.err.starts_with("navmsg: ")) << usage << ": " << bad.err;
-    }
 }
 
 }  // namespace

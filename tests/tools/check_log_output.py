@@ -1,8 +1,7 @@
 #!/usr/bin/env python3
-"""navmsg log on the public receiver logs: the messages per format their notes count,
---extract as batch input that decodes to the same records, JSON with the receiver time,
-CSV through Python's csv module, and --strict failing on the one subframe of the logs
-whose parity fails."""
+"""navmsg log on the public receiver logs: --extract as batch input that decodes to the
+same records, JSON with the receiver time, CSV through Python's csv module, and --strict
+failing on the one subframe of the logs whose parity fails."""
 
 import csv
 import io
@@ -10,7 +9,6 @@ import json
 import pathlib
 import subprocess
 import sys
-from collections import Counter
 
 navmsg, logs = sys.argv[1], pathlib.Path(sys.argv[2])
 
@@ -21,18 +19,13 @@ def run(*args, stdin=None, status=0):
     return done.stdout.decode("ascii"), done.stderr.decode("utf-8")
 
 
-# The counts of the logs' notes (converted messages, the failing one included).
-expected = {
-    "ublox-x20p.log": {"GpsLNav": 35, "BeidouD1": 29, "BeidouCNav1": 5, "BeidouCNav2": 36},
-    "20230919-114418.ubx": {"GpsLNav": 54, "QzssLNav": 24, "BeidouD1": 78},
-    "pygpsdata_x5_rawnav.log": {"GpsLNav": 1, "BeidouD2": 1, "Irnss": 1},
-}
+# The messages per format are the reader's (RealLog.CountsPerFormatAsTheLogNotesState),
+# and --extract lists them (Python.test_logs); here what navmsg makes of them.
 weeks = {"ublox-x20p.log": 2408, "20230919-114418.ubx": 2280, "pygpsdata_x5_rawnav.log": 2367}
-for name, counts in expected.items():
+for name in weeks:
     path = str(logs / name)
     extracted, _ = run("log", "--extract", path)
     lines = extracted.splitlines()
-    assert Counter(line.split()[1] for line in lines) == Counter(counts), (name, lines[:3])
 
     # The same messages as batch input give the same records; log adds signal and time.
     from_log = [json.loads(line) for line in run("log", "--output", "json", path)[0].splitlines()]
