@@ -86,7 +86,27 @@ std::string jsonMismatch(const DecodedMessage& m, const std::string& text, bool 
             }
         }
     }
-    return i == j["fields"].size() ? "" : "field count";
+    if (i != j["fields"].size()) {
+        return "field count";
+    }
+    if (j["checks"].size() != m.checks().size()) {
+        return "check count";
+    }
+    for (std::size_t c = 0; c < m.checks().size(); ++c) {
+        const CheckResult& check = m.checks()[c];
+        const json& jc = j["checks"][c];
+        if (jc["name"] != check.name || jc["ok"] != check.ok() ||
+            jc["bits"].size() != check.bits.size()) {
+            return "check " + std::string(check.name);
+        }
+        for (std::size_t b = 0; b < check.bits.size(); ++b) {
+            if (jc["bits"][b][0] != check.bits[b].first ||
+                jc["bits"][b][1] != check.bits[b].count) {
+                return "bits of check " + std::string(check.name);
+            }
+        }
+    }
+    return "";
 }
 
 TEST(RecordOutput, JsonReadsBackAsTheRecords) {
@@ -119,7 +139,8 @@ TEST(RecordOutput, JsonReadsBackAsTheRecords) {
 }
 
 // Strings are copied eight bytes at a time up to a byte that needs an escape: each such
-// byte at every position of a longer text, and one byte on each side of the ranges.
+// byte at every position of texts of several lengths, and one byte on each side of the
+// ranges.
 TEST(RecordOutput, EveryEscapeAtEveryPositionOfALongString) {
     const DecodedMessage m =
         NavMessageDecoder::DecodeFields(MessageFormat::Irnss, 0, 0, std::string(73, '0'));
@@ -129,18 +150,22 @@ TEST(RecordOutput, EveryEscapeAtEveryPositionOfALongString) {
     } bytes[] = {{'"', "\""},      {'\\', "\\"},         {'\n', "\n"},
                  {'\x01', "\x01"}, {'\x1F', "\x1F"},     {' ', " "},
                  {'\x7F', "\x7F"}, {'\x80', "\xC2\x80"}, {'\xE9', "\xC3\xA9"}};
-    for (const auto& b : bytes) {
-        for (std::size_t at = 0; at < 20; ++at) {
-            std::string sat(20, 'G');
-            sat[at] = b.byte;
-            RecordContext context;
-            context.sat = sat;
-            std::string line;
-            AppendJsonRecord(line, m, context);
-            std::string expected(20, 'G');
-            expected.replace(at, 1, b.parsed);
-            const std::string parsed = json::parse(line)["sat"].get<std::string>();
-            EXPECT_EQ(parsed, expected) << static_cast<int>(b.byte) << " at " << at;
+    // Lengths around the eight-byte blocks, the last of which overlaps the one before.
+    for (const std::size_t length : {1, 7, 8, 9, 15, 16, 17, 20}) {
+        for (const auto& b : bytes) {
+            for (std::size_t at = 0; at < length; ++at) {
+                std::string sat(length, 'G');
+                sat[at] = b.byte;
+                RecordContext context;
+                context.sat = sat;
+                std::string line;
+                AppendJsonRecord(line, m, context);
+                std::string expected(length, 'G');
+                expected.replace(at, 1, b.parsed);
+                const std::string parsed = json::parse(line)["sat"].get<std::string>();
+                EXPECT_EQ(parsed, expected)
+                    << static_cast<int>(b.byte) << " at " << at << " of " << length;
+            }
         }
     }
 }
