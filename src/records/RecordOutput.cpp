@@ -309,7 +309,41 @@ class JsonWriter {
         put(']');
     }
 
+    // A check's record after its name.
+    void check(const CheckResult& c) {
+        room(kCheckRoom);
+        char* p = p_;
+        p = c.ok() ? copy(p, R"(,"ok":true)") : copy(p, R"(,"ok":false)");
+        if (c.status == CheckStatus::Incomplete) {
+            p = copy(p, R"(,"incomplete":true)");
+        }
+        p_ = copy(p, R"(,"bits":)");
+        bits(c.bits);
+        room(kCheckRoom);
+        p = p_;
+        const std::int32_t digits = std::clamp((c.checkBits + 3) / 4, 1, 16);
+        p = Text::writeHexDigits(copy(p, R"(,"computed":")"), c.computed, digits);
+        p = Text::writeHexDigits(copy(p, R"(","received":")"), c.received, digits);
+        *p++ = '"';
+        if (c.correctedBit >= 0) {
+            p = Text::writeSigned(copy(p, R"(,"corrected":)"), c.correctedBit);
+        }
+        *p++ = '}';
+        p_ = p;
+    }
+
   private:
+    // What the constant pieces of a check take, and its two hex numbers and corrected
+    // bit with what their writers store past their text.
+    static constexpr std::size_t kCheckRoom = 160;
+
+    // A literal's characters at `p`, a copy of known size.
+    template <std::size_t N>
+    static char* copy(char* p, const char (&text)[N]) noexcept {
+        std::memcpy(p, text, N - 1);
+        return p + N - 1;
+    }
+
     // What writeShortest, an integer or hex digits take, with what the writers store
     // past their text.
     static constexpr std::size_t kNumber = 40;
@@ -481,22 +515,7 @@ void AppendJsonRecord(std::string& out, const DecodedMessage& message, const Rec
         json.put(first ? std::string_view("{\"name\":") : std::string_view(",{\"name\":"));
         first = false;
         json.string(c.name);
-        json.put(c.ok() ? std::string_view(",\"ok\":true") : std::string_view(",\"ok\":false"));
-        if (c.status == CheckStatus::Incomplete) {
-            json.put(",\"incomplete\":true");
-        }
-        json.put(",\"bits\":");
-        json.bits(c.bits);
-        json.put(R"(,"computed":")");
-        json.hex(c.computed, (c.checkBits + 3) / 4);
-        json.put(R"(","received":")");
-        json.hex(c.received, (c.checkBits + 3) / 4);
-        json.put('"');
-        if (c.correctedBit >= 0) {
-            json.put(",\"corrected\":");
-            json.integer(c.correctedBit);
-        }
-        json.put('}');
+        json.check(c);
     }
     json.put(message.ok() ? std::string_view("],\"ok\":true}\n")
                           : std::string_view("],\"ok\":false}\n"));

@@ -96,6 +96,9 @@ std::string jsonMismatch(const DecodedMessage& m, const std::string& text, bool 
         const CheckResult& check = m.checks()[c];
         const json& jc = j["checks"][c];
         if (jc["name"] != check.name || jc["ok"] != check.ok() ||
+            jc.contains("incomplete") != (check.status == CheckStatus::Incomplete) ||
+            std::stoul(jc["computed"].get<std::string>(), nullptr, 16) != check.computed ||
+            std::stoul(jc["received"].get<std::string>(), nullptr, 16) != check.received ||
             jc["bits"].size() != check.bits.size()) {
             return "check " + std::string(check.name);
         }
@@ -114,6 +117,9 @@ TEST(RecordOutput, JsonReadsBackAsTheRecords) {
     for (const Testing::SupportedFormat& f : Testing::kSupportedFormats) {
         for (const Testing::RealMessage& r : Testing::loadRealData(f.realDataFile)) {
             cases.push_back({f.format, r.subframe, r.page, r.hex, f.frameBits});
+            // Cut short: the checks the digits do not cover are incomplete.
+            cases.push_back(
+                {f.format, r.subframe, r.page, r.hex.substr(0, r.hex.size() / 2), f.frameBits});
         }
     }
     // Random text pages carry every kind of byte, quotes, backslashes and NULs among them.
