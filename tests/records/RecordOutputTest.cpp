@@ -157,7 +157,7 @@ TEST(RecordOutput, EveryEscapeAtEveryPositionOfALongString) {
                  {'\x01', "\x01"}, {'\x1F', "\x1F"},     {' ', " "},
                  {'\x7F', "\x7F"}, {'\x80', "\xC2\x80"}, {'\xE9', "\xC3\xA9"}};
     // Lengths around the eight-byte blocks, the last of which overlaps the one before.
-    for (const std::size_t length : {1, 7, 8, 9, 15, 16, 17, 20}) {
+    for (const std::size_t length : {1U, 7U, 8U, 9U, 15U, 16U, 17U, 20U}) {
         for (const auto& b : bytes) {
             for (std::size_t at = 0; at < length; ++at) {
                 std::string sat(length, 'G');
