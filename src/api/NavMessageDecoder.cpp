@@ -196,7 +196,7 @@ void NavMessageDecoder::Decode(MessageFormat format, std::int32_t subframeNumber
                                std::int32_t pageNumber, std::string_view hexString,
                                std::string& out, std::string_view lineEnd) {
     if (lineEnd != "\r\n" && lineEnd != "\n") {
-        throw std::invalid_argument("Decode: line ends are \"\\r\\n\" or \"\\n\"");
+        throw std::invalid_argument(R"(Decode: line ends are "\r\n" or "\n")");
     }
     // The listing is made whole on the stack first, so that a failure leaves `out` as
     // it was.

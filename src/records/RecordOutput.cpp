@@ -272,7 +272,9 @@ class JsonWriter {
                     *p++ = 't';
                     break;
                 default:
-                    std::memcpy(p, "u00", 3);
+                    p[0] = 'u';
+                    p[1] = '0';
+                    p[2] = '0';
                     p[3] = kHexDigits[c >> 4];
                     p[4] = kHexDigits[c & 0xF];
                     p += 5;
@@ -359,11 +361,11 @@ class JsonWriter {
             return p + 1;
         }
         if (u < 100) {
-            std::memcpy(p, Text::Detail::kDigitPairs + 2 * u, 2);
+            std::memcpy(p, Text::Detail::kDigitPairs + 2 * std::size_t{u}, 2);
             return p + 2;
         }
         *p = static_cast<char>('0' + u / 100);
-        std::memcpy(p + 1, Text::Detail::kDigitPairs + 2 * (u % 100), 2);
+        std::memcpy(p + 1, Text::Detail::kDigitPairs + 2 * std::size_t{u % 100}, 2);
         return p + 3;
     }
 
