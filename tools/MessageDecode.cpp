@@ -68,7 +68,19 @@ std::string_view typeOf(const std::exception& e) {
 // The listing or the records of a message, or both, as the options ask.
 void decodeAs(const Message& m, const MessageOptions& options, Decoded& decoded) {
     if (options.form == OutputForm::Text) {
-        decoded.listing = NavMessageDecoder::Decode(m.format, m.subframe, m.page, m.hex);
+        // Straight in the output's line ends, into the string of the last message. A
+        // carriage return of the message's own text (a broadcast character) makes the
+        // listing go the long way, as the conversion on writing treats it.
+        decoded.listing.clear();
+        if (!options.crlf) {
+            NavMessageDecoder::Decode(m.format, m.subframe, m.page, m.hex, decoded.listing, "\n");
+            decoded.listingInOutputForm = decoded.listing.find('\r') == std::string::npos;
+        }
+        if (options.crlf || !decoded.listingInOutputForm) {
+            decoded.listing.clear();
+            NavMessageDecoder::Decode(m.format, m.subframe, m.page, m.hex, decoded.listing);
+            decoded.listingInOutputForm = options.crlf;
+        }
     }
     if (options.records()) {
         NavMessageDecoder::DecodeFields(m.format, m.subframe, m.page, m.hex, decoded.records);
@@ -132,7 +144,11 @@ void writeMessage(Output& out, const MessageOptions& options, const Message& mes
                     out.put(header);
                     out.lineEnd();
                 }
-                out.writeListing(decoded.listing);
+                if (decoded.listingInOutputForm) {
+                    out.putListing(decoded.listing);
+                } else {
+                    out.writeListing(decoded.listing);
+                }
                 if (options.check) {
                     out.put(checksLine(decoded.records));
                     out.lineEnd();

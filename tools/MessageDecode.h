@@ -47,6 +47,8 @@ struct Message {
 // One message's result: its listing (text output) or its records, or why it failed.
 struct Decoded {
     std::string listing;
+    // The listing's lines end as the output wants them (no conversion on writing).
+    bool listingInOutputForm = false;
     ZeltNavMsg::DecodedMessage records;  // reused from message to message
     std::string failureType;             // "DecodingError", "length_error", ...
     std::string failure;                 // the report, without its place

@@ -57,6 +57,14 @@ class Output {
         }
     }
 
+    // A listing already in the chosen line ends, ended by one.
+    void putListing(std::string_view text) {
+        put(text);
+        if (!text.ends_with('\n')) {
+            lineEnd();
+        }
+    }
+
     // Everything written so far, out to the file, pipe or terminal.
     void flush() { writeOut(); }
     // flush(), then closes the descriptor and checks that too (a file system may

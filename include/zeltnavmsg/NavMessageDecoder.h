@@ -103,6 +103,13 @@ class ZELTNAVMSG_API NavMessageDecoder {
     // 38 bytes of a 300-bit subframe format.
     static std::string Decode(MessageFormat format, std::int32_t subframeNumber,
                               std::int32_t pageNumber, std::string_view hexString);
+    // The same listing appended to `out`, its lines ended by `lineEnd`: "\r\n" as above,
+    // or "\n" (anything else throws std::invalid_argument). A caller decoding many
+    // messages reuses one string, and one writing "\n" text needs no conversion. On an
+    // error `out` is left as it was.
+    static void Decode(MessageFormat format, std::int32_t subframeNumber, std::int32_t pageNumber,
+                       std::string_view hexString, std::string& out,
+                       std::string_view lineEnd = "\r\n");
 
     // Every field of the same message as data (zeltnavmsg/DecodedMessage.h), from the
     // same walk as the listing, with the interface documents' values. The input is

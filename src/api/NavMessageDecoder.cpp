@@ -142,15 +142,17 @@ std::string NavMessageDecoder::GetDefaultMessageFormatString(std::string_view sa
     throwUnknownSystem(satIdStr);
 }
 
-std::string NavMessageDecoder::Decode(MessageFormat format, std::int32_t subframeNumber,
-                                      std::int32_t pageNumber, std::string_view hexString) {
+namespace {
+
+// The listing of one message into `out`, whose line end is chosen.
+void describeMessage(MessageFormat format, std::int32_t subframeNumber, std::int32_t pageNumber,
+                     std::string_view hexString, Text::TextBuffer& out) {
     // Digits are checked before anything looks at the format, and emptiness next.
     const std::string_view digits = Detail::validateHexDigits(hexString);
     if (digits.empty()) {
         throw std::out_of_range("Decode: hex string is empty");
     }
 
-    Text::TextBuffer out("\r\n");
     switch (format) {
         case MessageFormat::GpsCNav2:
             describeFrame<&GpsCNav2::gpsCNav2FrameDef>(digits, out);
@@ -179,7 +181,28 @@ std::string NavMessageDecoder::Decode(MessageFormat format, std::int32_t subfram
         default:
             throw DecodingError("Decoding is not supported yet for this message format");
     }
+}
+
+}  // namespace
+
+std::string NavMessageDecoder::Decode(MessageFormat format, std::int32_t subframeNumber,
+                                      std::int32_t pageNumber, std::string_view hexString) {
+    Text::TextBuffer out("\r\n");
+    describeMessage(format, subframeNumber, pageNumber, hexString, out);
     return out.str();
+}
+
+void NavMessageDecoder::Decode(MessageFormat format, std::int32_t subframeNumber,
+                               std::int32_t pageNumber, std::string_view hexString,
+                               std::string& out, std::string_view lineEnd) {
+    if (lineEnd != "\r\n" && lineEnd != "\n") {
+        throw std::invalid_argument(R"(Decode: line ends are "\r\n" or "\n")");
+    }
+    // The listing is made whole on the stack first, so that a failure leaves `out` as
+    // it was.
+    Text::TextBuffer text(lineEnd == "\n" ? "\n" : "\r\n");
+    describeMessage(format, subframeNumber, pageNumber, hexString, text);
+    out.append(text.view());
 }
 
 DecodedMessage NavMessageDecoder::DecodeFields(MessageFormat format, std::int32_t subframeNumber,

@@ -105,11 +105,11 @@ std::size_t maxValueRoom(const TreeLine& line) noexcept {
             break;
     }
     const std::size_t units = line.unitsLength;
-    const std::size_t unitsChunks =
-        (std::max<std::size_t>(units, 1) + Text::kCopySlack - 1) / Text::kCopySlack *
-        Text::kCopySlack;
+    const std::size_t unitsChunks = (std::max<std::size_t>(units, 1) + Text::kCopySlack - 1) /
+                                    Text::kCopySlack * Text::kCopySlack;
     const std::size_t hex = std::max<std::size_t>(line.hexDigits, 16);
-    return value + std::max(unitsChunks, units + std::max(Text::kCopySlack, kRawHexTagLength + hex));
+    return value +
+           std::max(unitsChunks, units + std::max(Text::kCopySlack, kRawHexTagLength + hex));
 }
 
 namespace {
@@ -587,7 +587,7 @@ std::uint64_t TreePlan::readPieces(const TreeLine& line, ConstBitBuffer frame) c
 void TreePlan::appendText(ConstBitBuffer frame, Text::TextBuffer& out) const {
     const std::string_view lineEnd = out.lineEnd();
     if (lineEnd != "\n" && lineEnd != "\r\n") {
-        throw std::invalid_argument("TreePlan: line ends are \"\\n\" or \"\\r\\n\"");
+        throw std::invalid_argument(R"(TreePlan: line ends are "\n" or "\r\n")");
     }
     const std::size_t e = lineEnd.size() - 1;
     const TreeLayout& l = layout(frame);

@@ -119,7 +119,7 @@ constexpr std::uint32_t kErrorPattern[16] = {
 // The bit each syndrome sets, or none.
 constexpr auto kCorrection = [] {
     std::array<std::uint32_t, 16> table{};
-    for (std::size_t s = 0; s < table.size(); ++s) {
+    for (std::size_t s = 0; s != table.size(); ++s) {
         table[s] = kErrorPattern[s] != 0 ? 1U << ((kErrorPattern[s] - 1U) % 32U) : 0U;
     }
     return table;

@@ -193,8 +193,9 @@ class LegacyPlan {
         if (sf.subframe < 1 || sf.subframe > kSubframes || sf.page < 0 || sf.page >= kNamedPages) {
             return nullptr;
         }
-        return &names_[nameOf_[static_cast<std::size_t>((sf.subframe - 1) * kNamedPages +
-                                                        sf.page)]];
+        const std::size_t index = (static_cast<std::size_t>(sf.subframe) - 1) * kNamedPages +
+                                  static_cast<std::size_t>(sf.page);
+        return &names_[nameOf_[index]];
     }
 
     // The records the listing's rule selects for the subframe's number and

@@ -1,5 +1,6 @@
 #include "zeltnavmsg/RecordOutput.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -170,6 +171,8 @@ class JsonWriter {
     // Pieces longer than this go to the string directly.
     static constexpr std::size_t kLong = kSize / 8;
 
+    // buffer_ stays uninitialised: nothing is read before it is written.
+    // cppcheck-suppress uninitMemberVar
     explicit JsonWriter(std::string& out) noexcept : out_(out) {}
     JsonWriter(const JsonWriter&) = delete;
     JsonWriter& operator=(const JsonWriter&) = delete;
@@ -213,7 +216,9 @@ class JsonWriter {
         p_ = Text::writeHexDigits(p_, v, digits < 1 ? 1 : digits > 16 ? 16 : digits);
     }
     // A JSON string, escaped as appendJsonString escapes it; eight characters at a
-    // time up to the first that needs an escape.
+    // time up to the first that needs an escape, the last eight overlapping the block
+    // before them. The position is kept in a register: a store through `p_` would have
+    // it reloaded after every character.
     void string(std::string_view s) {
         if (s.size() > kLong) [[unlikely]] {
             flush();
@@ -221,67 +226,150 @@ class JsonWriter {
             return;
         }
         room(6 * s.size() + 2);
-        *p_++ = '"';
-        while (s.size() >= 8) {
+        char* p = p_;
+        *p++ = '"';
+        const char* from = s.data();
+        const char* const end = from + s.size();
+        if (s.size() >= 8) {
             std::uint64_t block = 0;
-            std::memcpy(&block, s.data(), 8);
-            if (needsEscape(block)) {
-                break;
+            while (end - from >= 8) {
+                std::memcpy(&block, from, 8);
+                if (needsEscape(block)) {
+                    break;
+                }
+                std::memcpy(p, &block, 8);
+                p += 8;
+                from += 8;
             }
-            std::memcpy(p_, &block, 8);
-            p_ += 8;
-            s.remove_prefix(8);
+            if (from != end && end - from < 8) {
+                std::memcpy(&block, end - 8, 8);
+                if (!needsEscape(block)) {
+                    std::memcpy(p - (8 - (end - from)), &block, 8);
+                    p += end - from;
+                    from = end;
+                }
+            }
         }
-        for (const char ch : s) {
-            const auto c = static_cast<unsigned char>(ch);
+        for (; from != end; ++from) {
+            const auto c = static_cast<unsigned char>(*from);
             if (c >= 0x20 && c < 0x80 && c != '"' && c != '\\') {
-                *p_++ = ch;
+                *p++ = *from;
                 continue;
             }
-            *p_++ = '\\';
+            *p++ = '\\';
             switch (c) {
                 case '"':
-                    *p_++ = '"';
+                    *p++ = '"';
                     break;
                 case '\\':
-                    *p_++ = '\\';
+                    *p++ = '\\';
                     break;
                 case '\n':
-                    *p_++ = 'n';
+                    *p++ = 'n';
                     break;
                 case '\r':
-                    *p_++ = 'r';
+                    *p++ = 'r';
                     break;
                 case '\t':
-                    *p_++ = 't';
+                    *p++ = 't';
                     break;
                 default:
-                    std::memcpy(p_, "u00", 3);
-                    p_[3] = kHexDigits[c >> 4];
-                    p_[4] = kHexDigits[c & 0xF];
-                    p_ += 5;
+                    p[0] = 'u';
+                    p[1] = '0';
+                    p[2] = '0';
+                    p[3] = kHexDigits[c >> 4];
+                    p[4] = kHexDigits[c & 0xF];
+                    p += 5;
                     break;
             }
         }
-        *p_++ = '"';
+        *p++ = '"';
+        p_ = p;
     }
+    // [[first,count],...]: a BeiDou codeword's bits are fifteen one-bit segments, so a
+    // step is a few stores, bit positions below 1000 written from the digit pairs.
     void bits(std::span<const BitSegment> segments) {
-        put('[');
-        for (std::size_t i = 0; i < segments.size(); ++i) {
-            room(2 * kNumber);
-            put(i == 0 ? std::string_view("[") : std::string_view(",["));
-            p_ = Text::writeSigned(p_, segments[i].first);
-            *p_++ = ',';
-            p_ = Text::writeSigned(p_, segments[i].count);
-            *p_++ = ']';
+        if (segments.empty()) {
+            put("[]");
+            return;
+        }
+        char separator = '[';  // the opening bracket before the first, then commas
+        constexpr std::size_t kChunk = 32;
+        for (std::size_t first = 0; first < segments.size(); first += kChunk) {
+            const std::size_t count = std::min(kChunk, segments.size() - first);
+            room(count * (2 * kNumber + 4));
+            char* p = p_;
+            for (const BitSegment& segment : segments.subspan(first, count)) {
+                p[0] = separator;
+                p[1] = '[';
+                separator = ',';
+                p = smallNumber(p + 2, segment.first);
+                *p++ = ',';
+                p = smallNumber(p, segment.count);
+                *p++ = ']';
+            }
+            p_ = p;
         }
         put(']');
     }
 
+    // A check's record after its name.
+    void check(const CheckResult& c) {
+        room(kCheckRoom);
+        char* p = p_;
+        p = c.ok() ? copy(p, R"(,"ok":true)") : copy(p, R"(,"ok":false)");
+        if (c.status == CheckStatus::Incomplete) {
+            p = copy(p, R"(,"incomplete":true)");
+        }
+        p_ = copy(p, R"(,"bits":)");
+        bits(c.bits);
+        room(kCheckRoom);
+        p = p_;
+        const std::int32_t digits = std::clamp((c.checkBits + 3) / 4, 1, 16);
+        p = Text::writeHexDigits(copy(p, R"(,"computed":")"), c.computed, digits);
+        p = Text::writeHexDigits(copy(p, R"(","received":")"), c.received, digits);
+        *p++ = '"';
+        if (c.correctedBit >= 0) {
+            p = Text::writeSigned(copy(p, R"(,"corrected":)"), c.correctedBit);
+        }
+        *p++ = '}';
+        p_ = p;
+    }
+
   private:
+    // What the constant pieces of a check take, and its two hex numbers and corrected
+    // bit with what their writers store past their text.
+    static constexpr std::size_t kCheckRoom = 160;
+
+    // A literal's characters at `p`, a copy of known size.
+    template <std::size_t N>
+    static char* copy(char* p, const char (&text)[N]) noexcept {
+        std::memcpy(p, text, N - 1);
+        return p + N - 1;
+    }
+
     // What writeShortest, an integer or hex digits take, with what the writers store
     // past their text.
     static constexpr std::size_t kNumber = 40;
+
+    // `v` in decimal; below 1000 without a division loop.
+    static char* smallNumber(char* p, std::int32_t v) noexcept {
+        if (v < 0 || v >= 1000) [[unlikely]] {
+            return Text::writeSigned(p, v);
+        }
+        const auto u = static_cast<std::uint32_t>(v);
+        if (u < 10) {
+            *p = static_cast<char>('0' + u);
+            return p + 1;
+        }
+        if (u < 100) {
+            std::memcpy(p, Text::Detail::kDigitPairs + 2 * std::size_t{u}, 2);
+            return p + 2;
+        }
+        *p = static_cast<char>('0' + u / 100);
+        std::memcpy(p + 1, Text::Detail::kDigitPairs + 2 * std::size_t{u % 100}, 2);
+        return p + 3;
+    }
 
     [[gnu::noinline]] void putLong(std::string_view s) {
         flush();
@@ -431,22 +519,7 @@ void AppendJsonRecord(std::string& out, const DecodedMessage& message, const Rec
         json.put(first ? std::string_view("{\"name\":") : std::string_view(",{\"name\":"));
         first = false;
         json.string(c.name);
-        json.put(c.ok() ? std::string_view(",\"ok\":true") : std::string_view(",\"ok\":false"));
-        if (c.status == CheckStatus::Incomplete) {
-            json.put(",\"incomplete\":true");
-        }
-        json.put(",\"bits\":");
-        json.bits(c.bits);
-        json.put(R"(,"computed":")");
-        json.hex(c.computed, (c.checkBits + 3) / 4);
-        json.put(R"(","received":")");
-        json.hex(c.received, (c.checkBits + 3) / 4);
-        json.put('"');
-        if (c.correctedBit >= 0) {
-            json.put(",\"corrected\":");
-            json.integer(c.correctedBit);
-        }
-        json.put('}');
+        json.check(c);
     }
     json.put(message.ok() ? std::string_view("],\"ok\":true}\n")
                           : std::string_view("],\"ok\":false}\n"));

@@ -21,7 +21,7 @@ constexpr int kMaxPow5 = 27;
 constexpr std::array<std::uint64_t, kMaxPow5 + 1> kPow5 = [] {
     std::array<std::uint64_t, kMaxPow5 + 1> pow5{};
     pow5[0] = 1;
-    for (std::size_t k = 1; k < pow5.size(); ++k) {
+    for (std::size_t k = 1; k != pow5.size(); ++k) {
         pow5[k] = pow5[k - 1] * 5;
     }
     return pow5;
@@ -90,10 +90,10 @@ char* layOut(char* p, bool negative, std::uint32_t digits, int exponent) noexcep
     char text[16];  // the six digits, then zeros for the fixed-size copies below
     const std::uint32_t high = digits / 10000;
     const std::uint32_t rest = digits - high * 10000;
-    std::memcpy(text, Detail::kDigitPairs + 2 * high, 2);
-    std::memcpy(text + 2, Detail::kDigitPairs + 2 * (rest / 100), 2);
-    std::memcpy(text + 4, Detail::kDigitPairs + 2 * (rest % 100), 2);
-    std::memcpy(text + 6, "00000000", 8);
+    std::memcpy(text, Detail::kDigitPairs + 2 * std::size_t{high}, 2);
+    std::memcpy(text + 2, Detail::kDigitPairs + 2 * std::size_t{rest / 100}, 2);
+    std::memcpy(text + 4, Detail::kDigitPairs + 2 * std::size_t{rest % 100}, 2);
+    std::memset(text + 6, '0', 8);
     std::size_t count = 6;  // significant digits without trailing zeros
     while (text[count - 1] == '0') {
         --count;
@@ -112,7 +112,7 @@ char* layOut(char* p, bool negative, std::uint32_t digits, int exponent) noexcep
         if (magnitude >= 100) {
             p[length++] = static_cast<char>('0' + magnitude / 100);
         }
-        std::memcpy(p + length, Detail::kDigitPairs + 2 * (magnitude % 100), 2);
+        std::memcpy(p + length, Detail::kDigitPairs + 2 * std::size_t{magnitude % 100}, 2);
         return p + length + 2;
     }
     if (exponent >= 0) {
@@ -123,7 +123,8 @@ char* layOut(char* p, bool negative, std::uint32_t digits, int exponent) noexcep
         return p + (count <= integerDigits ? integerDigits : count + 1);
     }
     const auto zeros = static_cast<std::size_t>(-exponent - 1);  // after "0."
-    std::memcpy(p, "0.000000", 8);
+    constexpr char kZeros[8] = {'0', '.', '0', '0', '0', '0', '0', '0'};
+    std::memcpy(p, kZeros, sizeof kZeros);
     std::memcpy(p + 2 + zeros, text, 8);
     return p + 2 + zeros + count;
 }

@@ -86,7 +86,7 @@ inline constexpr std::uint64_t kPowersOf10[20] = {1U,
 // Two hex digits of each byte value, the first in the high byte.
 inline constexpr auto kHexPairs = [] {
     std::array<std::uint16_t, 256> pairs{};
-    for (std::size_t i = 0; i < pairs.size(); ++i) {
+    for (std::size_t i = 0; i != pairs.size(); ++i) {
         pairs[i] = static_cast<std::uint16_t>((kHexDigits[i >> 4] << 8) | kHexDigits[i & 0xF]);
     }
     return pairs;
@@ -114,11 +114,11 @@ inline char* writeUnsigned(char* p, std::uint64_t v) noexcept {
     auto w = static_cast<std::uint32_t>(v);
     while (w >= 100) {
         q -= 2;
-        std::memcpy(q, Detail::kDigitPairs + 2 * (w % 100), 2);
+        std::memcpy(q, Detail::kDigitPairs + 2 * std::size_t{w % 100}, 2);
         w /= 100;
     }
     if (w >= 10) {
-        std::memcpy(q - 2, Detail::kDigitPairs + 2 * w, 2);
+        std::memcpy(q - 2, Detail::kDigitPairs + 2 * std::size_t{w}, 2);
     } else {
         q[-1] = static_cast<char>('0' + w);
     }

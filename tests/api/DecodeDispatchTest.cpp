@@ -7,6 +7,7 @@
 #include <string>
 
 #include "support/DecodeOutcome.h"
+#include "support/RealData.h"
 #include "support/SupportedFormats.h"
 
 namespace {
@@ -43,6 +44,52 @@ TEST(DecodeDispatch, EveryFormatThatDecodesIsInTheTable) {
             EXPECT_EQ(outcome, kNotSupported)
                 << "format " << value << " decodes: add its row to kSupportedFormats";
         }
+    }
+}
+
+// The appending Decode is the listing Decode returns: appended after what `out` holds,
+// in "\r\n" line ends or with every "\r\n" a "\n" (none of these messages has a
+// carriage return of its own).
+TEST(DecodeDispatch, AppendingDecodeIsTheListingInTheChosenLineEnds) {
+    using ZeltNavMsg::NavMessageDecoder;
+    for (const SupportedFormat& f : kSupportedFormats) {
+        for (const RealMessage& m : loadRealData(f.realDataFile)) {
+            std::string expected = NavMessageDecoder::Decode(f.format, m.subframe, m.page, m.hex);
+            std::string crlf = "kept";
+            NavMessageDecoder::Decode(f.format, m.subframe, m.page, m.hex, crlf);
+            ASSERT_EQ(crlf, "kept" + expected) << m.where;
+            for (std::size_t at = expected.find("\r\n"); at != std::string::npos;
+                 at = expected.find("\r\n", at)) {
+                expected.erase(at, 1);
+            }
+            std::string lf = "kept";
+            NavMessageDecoder::Decode(f.format, m.subframe, m.page, m.hex, lf, "\n");
+            ASSERT_EQ(lf, "kept" + expected) << m.where;
+        }
+    }
+}
+
+TEST(DecodeDispatch, AppendingDecodeLeavesItsStringAsItWasOnAnError) {
+    using ZeltNavMsg::NavMessageDecoder;
+    const SupportedFormat& f = kSupportedFormats[0];
+    const struct {
+        std::string_view hex;
+        std::string_view lineEnd;
+        Kind kind;
+    } cases[] = {
+        {f.sampleHex, "\r", Kind::OtherError},  // std::invalid_argument
+        {f.sampleHex, "", Kind::OtherError},
+        {"", "\n", Kind::OutOfRange},
+        {"0g", "\n", Kind::DecodingError},
+    };
+    for (const auto& c : cases) {
+        std::string out = "kept";
+        const DecodeOutcome outcome = Detail::outcomeOf(c.hex, [&](std::string_view input) {
+            NavMessageDecoder::Decode(f.format, f.subframe, f.page, input, out, c.lineEnd);
+            return std::string();
+        });
+        EXPECT_EQ(outcome.kind, c.kind) << c.hex << " " << c.lineEnd.size();
+        EXPECT_EQ(out, "kept");
     }
 }
 

@@ -9,6 +9,7 @@
 
 #include "support/CliShell.h"
 #include "support/SupportedFormats.h"
+#include "zeltnavmsg/MessageEncoder.h"
 #include "zeltnavmsg/NavMessageDecoder.h"
 
 namespace {
@@ -125,6 +126,31 @@ TEST(NavmsgCli, BatchDecodesEveryLineAndReportsFailures) {
         "# line 7: J01 LNAV subframe 3 page 0\n" +
         withLf(NavMessageDecoder::Decode(MessageFormat::QzssLNav, 3, 0, kGpsSubframe1)) + "\n";
     EXPECT_EQ(run.out, expected);
+}
+
+// Blanks of every kind and any number part the words; a text message's own carriage
+// return and line feed come out as the library lists them, in either line end.
+TEST(NavmsgCli, BatchWordsAndTextCharacters) {
+    ZeltNavMsg::MessageEncoder encoder(MessageFormat::GpsLNav, 4, 17, kGpsSubframe1);
+    encoder.set("ch01", '\r');
+    encoder.set("ch02", '\n');
+    encoder.set("ch03", '\r');
+    const std::string text = encoder.hex();
+    const std::string input = "G04\t LNAV\v4\f17" + std::string(20, ' ') + text + " \r\n" +
+                              std::string(17, ' ') + "G04 LNAV 1 0 " + kGpsSubframe1 +
+                              std::string(17, '\t') + "\n";
+    const std::string first = "# line 1: G04 LNAV subframe 4 page 17\r\n" +
+                              NavMessageDecoder::Decode(MessageFormat::GpsLNav, 4, 17, text) +
+                              "\r\n";
+    const std::string second =
+        "# line 2: G04 LNAV subframe 1 page 0\r\n" +
+        NavMessageDecoder::Decode(MessageFormat::GpsLNav, 1, 0, kGpsSubframe1) + "\r\n";
+    ASSERT_NE(first.find("'\r'"), std::string::npos);
+    const CliRun lf = navmsg("batch -", input);
+    EXPECT_EQ(lf.status, 0) << lf.err;
+    EXPECT_EQ(lf.out, withLf(first + second));
+    const CliRun crlf = navmsg("batch --crlf -", input);
+    EXPECT_EQ(crlf.out, first + second);
 }
 
 TEST(NavmsgCli, FormatsListsNamesAndWhatDecodes) {
