@@ -29,12 +29,10 @@ namespace {
 // log has no time tag yet).
 void writeHeader(Output& out, const LogMessage& m, std::string_view formatName) {
     if (m.hasTime) {
-        char tow[32];
-        const auto end = std::to_chars(tow, tow + sizeof tow, m.secondsOfWeek).ptr;
         out.put("# week ");
         out.putNumber(m.week);
         out.put(" tow ");
-        out.put(std::string_view(tow, static_cast<std::size_t>(end - tow)));
+        out.append([&](std::string& text) { ZeltNavMsg::AppendNumber(text, m.secondsOfWeek); });
     } else {
         out.put("# no time");
     }

@@ -44,6 +44,11 @@ struct RecordOptions {
     bool allFields = false;  // reserved, check and whole-word fields too
 };
 
+// Appends the shortest text that reads back as `value` (what std::to_chars writes
+// without a precision), as the records write their numbers: for a host that adds its
+// own fields to a record, or a receiver time to a header line.
+ZELTNAVMSG_API void AppendNumber(std::string& out, double value);
+
 // "GpsLNav", "BeidouCNav2", ...: the enumerator's name.
 [[nodiscard]] ZELTNAVMSG_API std::string_view MessageFormatName(MessageFormat format) noexcept;
 

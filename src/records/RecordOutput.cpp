@@ -55,10 +55,43 @@ char* writeShortest(char* p, double v) noexcept {
             }
         }
     }
+    // Up to three decimals (times of week in milliseconds, values of a few LSBs): below
+    // 2^31 the double nearest m/1000 lies within 2.4e-7 of it, so any other text that
+    // reads back needs digits down to 1e-7 and is longer; with a fraction the fixed form
+    // is never longer than the exponent form. So m/1000 without trailing zeros is what
+    // std::to_chars writes.
+    constexpr double kFixedRange = 2147483648.0;  // 2^31
+    if (v > -kFixedRange && v < kFixedRange) {
+        const double scaled = v * 1000.0;
+        const auto m = static_cast<std::int64_t>(scaled < 0 ? scaled - 0.5 : scaled + 0.5);
+        if (m % 1000 != 0 && static_cast<double>(m) / 1000.0 == v) {
+            std::uint64_t magnitude =
+                m < 0 ? static_cast<std::uint64_t>(-m) : static_cast<std::uint64_t>(m);
+            if (m < 0) {
+                *p++ = '-';
+            }
+            p = std::to_chars(p, p + 16, magnitude / 1000).ptr;
+            *p++ = '.';
+            magnitude %= 1000;
+            int digits = 3;
+            for (; magnitude % 10 == 0; magnitude /= 10) {
+                --digits;
+            }
+            for (int i = digits - 1; i >= 0; --i, magnitude /= 10) {
+                p[i] = static_cast<char>('0' + magnitude % 10);
+            }
+            return p + digits;
+        }
+    }
     return std::to_chars(p, p + 32, v).ptr;
 }
 
 }  // namespace Records
+
+void AppendNumber(std::string& out, double value) {
+    char digits[32];
+    out.append(digits, Records::writeShortest(digits, value));
+}
 
 namespace {
 
