@@ -197,7 +197,7 @@ TEST(RecordOutput, NumbersAreWhatToCharsWrites) {
         }
     }
     std::mt19937_64 random(7);
-    for (int i = 0; i < 4000; ++i) {
+    for (std::size_t i = 0; i < 4000; ++i) {
         const auto m = static_cast<std::int64_t>(random() % 4294967296000ULL) - 2147483648000LL;
         const double v = static_cast<double>(m) / std::array{10.0, 100.0, 1000.0}[i % 3];
         values.insert(values.end(),
