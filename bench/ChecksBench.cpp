@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "AllocationCounter.h"
+#include "BenchData.h"
 #include "api/HexInput.h"
 #include "checks/BeidouCodewords.h"
 #include "checks/Checks.h"
@@ -90,25 +91,8 @@ void benchCorrectedSubframe(benchmark::State& state, const std::string& fileName
     });
 }
 
-struct Row {
-    const char* name;
-    MessageFormat format;
-    const char* dataFile;  // in tests/data/real-data
-};
-
-const Row kRows[] = {
-    {"GpsLNav", MessageFormat::GpsLNav, "gps_lnav.tsv"},
-    {"QzssLNav", MessageFormat::QzssLNav, "qzss_lnav.tsv"},
-    {"BeidouD1", MessageFormat::BeidouD1, "beidou_d1.tsv"},
-    {"BeidouD2", MessageFormat::BeidouD2, "beidou_d2.tsv"},
-    {"GpsCNav2", MessageFormat::GpsCNav2, "gps_cnav2.tsv"},
-    {"BeidouCNav1", MessageFormat::BeidouCNav1, "beidou_cnav1.tsv"},
-    {"BeidouCNav2", MessageFormat::BeidouCNav2, "beidou_cnav2.tsv"},
-    {"Irnss", MessageFormat::Irnss, "irnss.tsv"},
-};
-
 [[maybe_unused]] const bool kRegistered = [] {
-    for (const Row& row : kRows) {
+    for (const auto& row : ZeltNavMsg::Bench::formats()) {
         const std::string name = row.name;
         benchmark::RegisterBenchmark(("Checks/" + name).c_str(), benchChecks, row.format,
                                      std::string(row.dataFile));

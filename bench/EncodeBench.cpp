@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "AllocationCounter.h"
+#include "BenchData.h"
 #include "zeltnavmsg/DecodedMessage.h"
 #include "zeltnavmsg/MessageEncoder.h"
 
@@ -30,22 +31,7 @@ using ZeltNavMsg::DecodedMessage;
 using ZeltNavMsg::MessageEncoder;
 using ZeltNavMsg::MessageFormat;
 
-struct EncodeFormat {
-    const char* name;
-    MessageFormat format;
-    const char* dataFile;  // in tests/data/real-data
-};
-
-const EncodeFormat kFormats[] = {
-    {"GpsLNav", MessageFormat::GpsLNav, "gps_lnav.tsv"},
-    {"QzssLNav", MessageFormat::QzssLNav, "qzss_lnav.tsv"},
-    {"BeidouD1", MessageFormat::BeidouD1, "beidou_d1.tsv"},
-    {"BeidouD2", MessageFormat::BeidouD2, "beidou_d2.tsv"},
-    {"GpsCNav2", MessageFormat::GpsCNav2, "gps_cnav2.tsv"},
-    {"BeidouCNav1", MessageFormat::BeidouCNav1, "beidou_cnav1.tsv"},
-    {"BeidouCNav2", MessageFormat::BeidouCNav2, "beidou_cnav2.tsv"},
-    {"Irnss", MessageFormat::Irnss, "irnss.tsv"},
-};
+using EncodeFormat = ZeltNavMsg::Bench::BenchFormat;
 
 // The records of every data line (format, satellite, subframe, page, hex, ... TAB-separated).
 std::vector<DecodedMessage> loadRecords(const EncodeFormat& format) {
@@ -130,7 +116,7 @@ void benchEncodeByPath(benchmark::State& state, const EncodeFormat* format) {
 }
 
 [[maybe_unused]] const bool kRegistered = [] {
-    for (const EncodeFormat& format : kFormats) {
+    for (const EncodeFormat& format : ZeltNavMsg::Bench::formats()) {
         const std::string name = format.name;
         benchmark::RegisterBenchmark(("Encode/" + name).c_str(), benchEncode, &format);
         benchmark::RegisterBenchmark(("EncodeRaw/" + name).c_str(), benchEncodeRaw, &format);

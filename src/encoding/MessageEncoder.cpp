@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "api/HexInput.h"
+#include "bits/BigEndian.h"
 #include "bits/BitUtils.h"
 #include "encoding/Protection.h"
 #include "records/FieldDetail.h"
@@ -44,29 +45,6 @@ std::string unitsText(const FieldInfo& field) {
     return text;
 }
 
-constexpr std::uint64_t byteSwap(std::uint64_t v) noexcept {
-#if defined(__GNUC__) || defined(__clang__)
-    return __builtin_bswap64(v);
-#else
-    std::uint64_t r = 0;
-    for (int i = 0; i < 8; ++i, v >>= 8) {
-        r = (r << 8) | (v & 0xFFU);
-    }
-    return r;
-#endif
-}
-
-// Eight bytes from `p`, the first most significant, and back: one load or store each.
-std::uint64_t load64(const std::uint8_t* p) noexcept {
-    std::uint64_t v = 0;
-    std::memcpy(&v, p, sizeof v);
-    return std::endian::native == std::endian::little ? byteSwap(v) : v;
-}
-void store64(std::uint8_t* p, std::uint64_t v) noexcept {
-    v = std::endian::native == std::endian::little ? byteSwap(v) : v;
-    std::memcpy(p, &v, sizeof v);
-}
-
 // `count` bits of `value` (its low bits, the first most significant) from bit `first` of
 // the `size` bytes at `bytes`: within one byte, one eight-byte window, or byte by byte.
 void writeRun(std::uint8_t* bytes, std::size_t size, std::int32_t first, std::int32_t count,
@@ -82,7 +60,8 @@ void writeRun(std::uint8_t* bytes, std::size_t size, std::int32_t first, std::in
     if (offset + count <= 64 && at + 8 <= size) {
         const auto shift = static_cast<unsigned>(64 - offset - count);
         const std::uint64_t mask = lowBitsMask(count) << shift;
-        store64(bytes + at, (load64(bytes + at) & ~mask) | ((value << shift) & mask));
+        Bits::storeBigEndian64(
+            bytes + at, (Bits::loadBigEndian64(bytes + at) & ~mask) | ((value << shift) & mask));
         return;
     }
     while (count > 0) {

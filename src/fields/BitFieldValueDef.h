@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "bits/BigEndian.h"
 #include "bits/NumberFormat.h"
 #include "fields/BitFieldDef.h"
 #include "text/PaddedText.h"
@@ -32,7 +33,7 @@ class BitFieldValueDef : public BitFieldDef {
         // One unaligned 8-byte load when the field is a single run of at most 57 bits
         // whose 8 bytes all lie inside the buffer.
         if (windowed_ && firstByte_ + 8 <= (buffer.bitsCount() + 7) / 8) {
-            return (loadBigEndian64(buffer.data() + firstByte_) << windowShift_) >>
+            return (Bits::loadBigEndian64(buffer.data() + firstByte_) << windowShift_) >>
                    (64 - totalBitsCount());
         }
         return readRawSlow(buffer);
@@ -56,20 +57,6 @@ class BitFieldValueDef : public BitFieldDef {
 
   private:
     [[nodiscard]] std::uint64_t readRawSlow(ConstBitBuffer buffer) const noexcept;
-    static std::uint64_t loadBigEndian64(const std::uint8_t* p) noexcept {
-#if defined(__GNUC__) || defined(__clang__)
-        if constexpr (std::endian::native == std::endian::little) {
-            std::uint64_t v = 0;
-            std::memcpy(&v, p, sizeof v);
-            return __builtin_bswap64(v);
-        }
-#endif
-        std::uint64_t v = 0;
-        for (int i = 0; i < 8; ++i) {
-            v = (v << 8) | p[i];
-        }
-        return v;
-    }
 
     NumberFormat numberFormat_;
     bool singleRange_;

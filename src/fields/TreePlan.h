@@ -10,6 +10,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "bits/BigEndian.h"
 #include "bits/BitBuffer.h"
 #include "bits/BitRange.h"
 #include "fields/BitFieldValueDef.h"
@@ -30,7 +31,7 @@
 
 namespace ZeltNavMsg::Describe {
 
-// Up to 64 bits from one window: (load64(bits + byte) << shift) >> (64 - length).
+// Up to 64 bits from one window: (loadBigEndian64(bits + byte) << shift) >> (64 - length).
 struct PlannedPiece {
     std::uint32_t byte = 0;
     std::uint8_t shift = 0;
@@ -126,28 +127,12 @@ class TreePlan {
     void appendText(ConstBitBuffer frame, Text::TextBuffer& out) const;
 
     static std::uint64_t readPiece(const PlannedPiece& piece, const std::uint8_t* bits) noexcept {
-        std::uint64_t v = 0;
-        std::memcpy(&v, bits + piece.byte, sizeof v);
-        if constexpr (std::endian::native == std::endian::little) {
-            v = byteSwap(v);
-        }
-        return (v << piece.shift) >> (64 - piece.length);
+        return (Bits::loadBigEndian64(bits + piece.byte) << piece.shift) >> (64 - piece.length);
     }
 
   private:
     class Builder;
 
-    static std::uint64_t byteSwap(std::uint64_t v) noexcept {
-#if defined(__GNUC__) || defined(__clang__)
-        return __builtin_bswap64(v);
-#else
-        std::uint64_t r = 0;
-        for (int i = 0; i < 8; ++i, v >>= 8) {
-            r = (r << 8) | (v & 0xFFU);
-        }
-        return r;
-#endif
-    }
     [[nodiscard]] std::uint64_t readPieces(const TreeLine& line,
                                            ConstBitBuffer frame) const noexcept;
 

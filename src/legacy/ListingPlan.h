@@ -24,7 +24,7 @@ inline constexpr std::size_t kPaddedDataBytes = 48;
 // A segment that lies before bit 1 or after the data reads as zero from here.
 inline constexpr std::uint8_t kZeroBytes = 40;
 
-// Up to 32 bits: (load64(byte) << shift) >> (64 - length).
+// Up to 32 bits: (loadBigEndian64(byte) << shift) >> (64 - length).
 struct PlannedSegment {
     std::uint8_t byte = kZeroBytes;
     std::uint8_t shift = 0;

@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstring>
+#include "bits/BigEndian.h"
 
 namespace ZeltNavMsg::Legacy {
 
@@ -23,35 +24,6 @@ std::uint32_t readWord(const std::uint8_t* data, int index) noexcept {
         bits |= std::uint64_t{data[byte + b]} << (32 - 8 * b);
     }
     return static_cast<std::uint32_t>(bits >> (10 - index % 8)) & 0x3FFFFFFFU;
-}
-
-// Eight bytes, the first most significant, and back: one load or store and a byte
-// swap.
-std::uint64_t load64(const std::uint8_t* p) noexcept {
-#if defined(__GNUC__) || defined(__clang__)
-    if constexpr (std::endian::native == std::endian::little) {
-        std::uint64_t v = 0;
-        std::memcpy(&v, p, sizeof v);
-        return __builtin_bswap64(v);
-    }
-#endif
-    std::uint64_t v = 0;
-    for (int i = 0; i < 8; ++i) {
-        v = (v << 8) | p[i];
-    }
-    return v;
-}
-void store64(std::uint8_t* p, std::uint64_t v) noexcept {
-#if defined(__GNUC__) || defined(__clang__)
-    if constexpr (std::endian::native == std::endian::little) {
-        v = __builtin_bswap64(v);
-        std::memcpy(p, &v, sizeof v);
-        return;
-    }
-#endif
-    for (int i = 7; i >= 0; --i, v >>= 8) {
-        p[i] = static_cast<std::uint8_t>(v & 0xFFU);
-    }
 }
 
 constexpr std::int32_t wordStart(int word) {
@@ -239,9 +211,11 @@ bool SubframeCoderBeidouNav::Decode(subframe_t& sf) const {
         for (int w = 0; w < kWords; ++w) {
             const int at = 30 * w;
             const std::uint32_t word =
-                static_cast<std::uint32_t>(load64(in + at / 8) >> (34 - at % 8)) & 0x3FFFFFFFU;
+                static_cast<std::uint32_t>(Bits::loadBigEndian64(in + at / 8) >> (34 - at % 8)) &
+                0x3FFFFFFFU;
             const std::uint32_t decoded = w == 0 ? decodeFirstWord(word) : decodeWord(word);
-            store64(out + at / 8, load64(out + at / 8) | (std::uint64_t{decoded} << (34 - at % 8)));
+            Bits::storeBigEndian64(out + at / 8, Bits::loadBigEndian64(out + at / 8) |
+                                                     (std::uint64_t{decoded} << (34 - at % 8)));
         }
         out[37] = static_cast<std::uint8_t>((out[37] & 0xF0U) | (sf.data[37] & 0x0FU));
         std::memcpy(sf.data, out, sizeof sf.data);

@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstring>
 
+#include "bits/BigEndian.h"
 #include "text/NumberText.h"
 
 namespace ZeltNavMsg::Legacy {
@@ -36,26 +37,12 @@ std::int32_t signExtend(std::uint32_t value, std::int32_t width) {
     return static_cast<std::int32_t>(value);
 }
 
-std::uint64_t loadBigEndian64(const std::uint8_t* p) noexcept {
-#if defined(__GNUC__) || defined(__clang__)
-    if constexpr (std::endian::native == std::endian::little) {
-        std::uint64_t v = 0;
-        std::memcpy(&v, p, 8);
-        return __builtin_bswap64(v);
-    }
-#endif
-    std::uint64_t v = 0;
-    for (int i = 0; i < 8; ++i) {
-        v = (v << 8) | p[i];
-    }
-    return v;
-}
-
 // The entry's raw value: its segments joined most significant first, of which a
 // 32-bit accumulator keeps the last 32 bits.
 std::uint32_t readValue(const PlannedLine& line, const std::uint8_t* bits) noexcept {
     const auto read = [bits](const PlannedSegment& segment) {
-        return (loadBigEndian64(bits + segment.byte) << segment.shift) >> (64 - segment.length);
+        return (Bits::loadBigEndian64(bits + segment.byte) << segment.shift) >>
+               (64 - segment.length);
     };
     if (line.segmentCount == 1) {  // most fields
         return static_cast<std::uint32_t>(read(line.segments[0]));

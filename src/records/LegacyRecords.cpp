@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "bits/BigEndian.h"
 #include "bits/BitUtils.h"
 #include "checks/BeidouCodewords.h"
 #include "legacy/BeidouD1Interface.h"
@@ -31,7 +32,7 @@ using Legacy::subframe_t;
 using Legacy::SubframeFieldInfo;
 using Legacy::SubframeIf;
 
-// Up to 57 bits of the decoded subframe: (load64(byte) << shift) >> (64 - length).
+// Up to 57 bits of the decoded subframe: (loadBigEndian64(byte) << shift) >> (64 - length).
 struct Piece {
     std::uint16_t byte = 0;
     std::uint8_t shift = 0;
@@ -78,31 +79,16 @@ double valueOf(const LegacyPart& part, std::uint64_t raw) noexcept {
     return static_cast<double>(raw) * part.rule.scale;
 }
 
-// Eight bytes from `p`, the first most significant: one load and a byte swap.
-std::uint64_t load64(const std::uint8_t* p) noexcept {
-#if defined(__GNUC__) || defined(__clang__)
-    if constexpr (std::endian::native == std::endian::little) {
-        std::uint64_t v = 0;
-        std::memcpy(&v, p, sizeof v);
-        return __builtin_bswap64(v);
-    }
-#endif
-    std::uint64_t v = 0;
-    for (int i = 0; i < 8; ++i) {
-        v = (v << 8) | p[i];
-    }
-    return v;
-}
-
 std::uint64_t readPart(const LegacyPart& part, const std::uint8_t* bits) noexcept {
     if (part.pieceCount == 1) {  // most fields
         const Piece& p = part.pieces[0];
-        return (load64(bits + p.byte) << p.shift) >> (64 - p.length);
+        return (Bits::loadBigEndian64(bits + p.byte) << p.shift) >> (64 - p.length);
     }
     std::uint64_t raw = 0;
     for (std::uint8_t i = 0; i < part.pieceCount; ++i) {
         const Piece& p = part.pieces[i];
-        raw = (raw << p.length) | ((load64(bits + p.byte) << p.shift) >> (64 - p.length));
+        raw = (raw << p.length) |
+              ((Bits::loadBigEndian64(bits + p.byte) << p.shift) >> (64 - p.length));
     }
     return raw;
 }
@@ -224,9 +210,9 @@ class LegacyPlan {
     // The record of a selection's reader.
     void add(const Reader& r, const std::uint8_t* bits, MessageWriter& writer) const {
         const std::uint64_t raw =
-            r.pieceCount == 1
-                ? (load64(bits + r.piece.byte) << r.piece.shift) >> (64 - r.piece.length)
-                : readPart(parts_[r.part], bits);
+            r.pieceCount == 1 ? (Bits::loadBigEndian64(bits + r.piece.byte) << r.piece.shift) >>
+                                    (64 - r.piece.length)
+                              : readPart(parts_[r.part], bits);
         double value = 0.0;
         if (r.isSigned) {
             value = static_cast<double>(static_cast<std::int64_t>(raw << r.unused) >> r.unused);
